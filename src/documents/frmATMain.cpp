@@ -1,0 +1,10 @@
+#include "documents/frmATMain.h"
+
+#include "shell/ModulePrefixes.h"
+
+namespace orvane
+{
+
+frmATMain::frmATMain() : PendingWindow(QStringLiteral("frmATMain"), prefix::Tools(), QStringLiteral("AT")) {}
+
+} // namespace orvane

@@ -1,0 +1,10 @@
+#include "documents/frmEMMain.h"
+
+#include "shell/ModulePrefixes.h"
+
+namespace orvane
+{
+
+frmEMMain::frmEMMain() : PendingWindow(QStringLiteral("frmEMMain"), prefix::Manual(), QStringLiteral("EM")) {}
+
+} // namespace orvane

@@ -1,0 +1,10 @@
+#include "documents/frmMPMain.h"
+
+#include "shell/ModulePrefixes.h"
+
+namespace orvane
+{
+
+frmMPMain::frmMPMain() : PendingWindow(QStringLiteral("frmMPMain"), prefix::Procedures(), QStringLiteral("MP")) {}
+
+} // namespace orvane

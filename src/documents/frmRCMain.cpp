@@ -1,0 +1,10 @@
+#include "documents/frmRCMain.h"
+
+#include "shell/ModulePrefixes.h"
+
+namespace orvane
+{
+
+frmRCMain::frmRCMain() : PendingWindow(QStringLiteral("frmRCMain"), prefix::Records(), QStringLiteral("RC")) {}
+
+} // namespace orvane

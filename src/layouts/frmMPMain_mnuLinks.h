@@ -1,0 +1,11 @@
+// Related topics, printing, the two versions and Close of a Management Procedures window.
+#pragma once
+
+#include "platform/controls/ToolTable.h"
+
+namespace orvane::layouts
+{
+
+extern const BarTable frmMPMain_mnuLinks;
+
+} // namespace orvane::layouts

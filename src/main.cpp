@@ -1,0 +1,23 @@
+// Starts the chain of windows: the splash brings up everything else.
+
+#include "platform/controls/Palette.h"
+#include "platform/forms/DefaultInstance.h"
+#include "platform/forms/Wiring.h"
+#include "shell/frmSplash.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QMetaObject>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("orvane"));
+    QApplication::setQuitOnLastWindowClosed(false); // the console's Quit ends the program
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/mark.svg")));
+    orvane::applyLooks(application);
+    QMetaObject::invokeMethod(
+        &application, [] { orvane::guarded([] { orvane::Default<orvane::frmSplash>().Show(); }); },
+        Qt::QueuedConnection);
+    return QApplication::exec();
+}

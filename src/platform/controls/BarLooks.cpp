@@ -1,0 +1,57 @@
+#include "platform/controls/BarLooks.h"
+
+#include "platform/controls/Tool.h"
+
+#include <QFile>
+
+// Outside any namespace, as the pictures' own code is; a static library drops them unless they are asked for.
+static void bringPicturesIn()
+{
+    Q_INIT_RESOURCE(pictures);
+}
+
+namespace orvane
+{
+
+namespace
+{
+constexpr int PointSize = 9;
+constexpr QChar Mark = u'&';
+} // namespace
+
+QFont barFont()
+{
+    return QFont(QStringLiteral("Arial"), PointSize);
+}
+
+QIcon toolIcon(const Tool &tool)
+{
+    if (tool.Image().isEmpty()) return {};
+    bringPicturesIn();
+    const QString file = QStringLiteral(":/pictures/tools/%1.svg").arg(tool.Image());
+    return QFile::exists(file) ? QIcon(file) : QIcon();
+}
+
+QString shownCaption(const Tool &tool)
+{
+    return tool.Caption().trimmed();
+}
+
+QString withoutAccessKey(const QString &caption)
+{
+    QString plain;
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        const bool doubled = caption.at(i) == Mark && i + 1 < caption.size() && caption.at(i + 1) == Mark;
+        if (doubled) plain += caption.at(i++);
+        if (doubled || caption.at(i) != Mark) plain += caption.at(i);
+    }
+    return plain;
+}
+
+QString spokenName(const Tool &tool)
+{
+    const QString caption = withoutAccessKey(shownCaption(tool)).replace(QStringLiteral("&&"), QStringLiteral("&"));
+    return caption.isEmpty() ? tool.ToolTipText().trimmed() : caption;
+}
+
+} // namespace orvane

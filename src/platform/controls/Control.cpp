@@ -1,0 +1,174 @@
+#include "platform/controls/Control.h"
+
+#include "platform/forms/Form.h"
+#include "platform/system/RunTimeError.h"
+
+#include <QEvent>
+#include <QVariant>
+
+namespace orvane
+{
+
+namespace
+{
+const char ControlProperty[] = "orvaneControl";
+
+void refuseNegative(double twips)
+{
+    if (twips < 0) throw RunTimeError(InvalidPropertyValue, QStringLiteral("A width or height can't be negative."));
+}
+} // namespace
+
+Control::Control(Container &parent, const QString &name, QWidget *widget) : m_form(parent.form()), m_widget(widget)
+{
+    setObjectName(name);
+    widget->setObjectName(name);
+    widget->setParent(&parent.surface());
+    widget->setProperty(ControlProperty, QVariant::fromValue(static_cast<QObject *>(this)));
+    m_form.adopt(*this);
+}
+
+Control::~Control()
+{
+    m_form.release(*this);
+    delete m_widget;
+}
+
+Control *Control::of(QWidget *widget)
+{
+    for (; widget; widget = widget->parentWidget())
+        if (auto *control = qobject_cast<Control *>(widget->property(ControlProperty).value<QObject *>()))
+            return control;
+    return nullptr;
+}
+
+void Control::setLeft(double twips)
+{
+    m_left = twips;
+    place();
+}
+
+void Control::setTop(double twips)
+{
+    m_top = twips;
+    place();
+}
+
+void Control::setWidth(double twips)
+{
+    refuseNegative(twips);
+    m_width = twips;
+    place();
+}
+
+void Control::setHeight(double twips)
+{
+    refuseNegative(twips);
+    m_height = twips;
+    place();
+}
+
+void Control::Move(double left, double top, double width, double height)
+{
+    refuseNegative(width);
+    refuseNegative(height);
+    m_left = left;
+    m_top = top;
+    m_width = width;
+    m_height = height;
+    place();
+}
+
+void Control::place()
+{
+    m_widget->setGeometry(toPixels(m_left), toPixels(m_top), toPixels(m_width), toPixels(m_height));
+}
+
+void Control::setAlign(Alignments align)
+{
+    m_align = align;
+    m_widget->parentWidget()->installEventFilter(this);
+    cling();
+}
+
+void Control::cling()
+{
+    const QSize room = m_widget->parentWidget()->size();
+    const double height = m_align == AlignedBottom ? m_height : toTwips(room.height());
+    Move(0, toTwips(room.height()) - height, toTwips(room.width()), height);
+}
+
+bool Control::eventFilter(QObject *watched, QEvent *event)
+{
+    if (m_align != NotAligned && event->type() == QEvent::Resize && watched == m_widget->parentWidget()) cling();
+    return false;
+}
+
+bool Control::Visible() const
+{
+    return !m_widget->isHidden();
+}
+
+void Control::setVisible(bool visible)
+{
+    m_widget->setVisible(visible);
+}
+
+bool Control::Enabled() const
+{
+    return m_widget->isEnabledTo(m_widget->parentWidget());
+}
+
+void Control::setEnabled(bool enabled)
+{
+    m_widget->setEnabled(enabled);
+}
+
+QString Control::ToolTipText() const
+{
+    return m_widget->toolTip();
+}
+
+void Control::setToolTipText(const QString &text)
+{
+    m_widget->setToolTip(text);
+    speak();
+}
+
+void Control::setPurpose(const QString &purpose)
+{
+    m_purpose = purpose;
+    speak();
+}
+
+void Control::speak()
+{
+    QString name = Caption().remove(u'&').trimmed();
+    if (name.isEmpty()) name = ToolTipText();
+    if (name.isEmpty()) name = m_purpose;
+    voice().setAccessibleName(name);
+    m_widget->setAccessibleName(name);
+}
+
+void Control::setMousePointer(int pointer)
+{
+    m_mousePointer = pointer;
+    voice().setCursor(pointerShape(pointer));
+}
+
+void Control::SetFocus()
+{
+    voice().setFocus(Qt::OtherFocusReason);
+}
+
+void Control::Refresh()
+{
+    m_widget->repaint();
+}
+
+void Control::ZOrderBack()
+{
+    m_widget->lower();
+}
+
+} // namespace orvane

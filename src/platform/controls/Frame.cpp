@@ -1,0 +1,20 @@
+#include "platform/controls/Frame.h"
+
+#include <QMouseEvent>
+
+namespace orvane
+{
+
+Frame::Frame(Container &parent, const QString &name) : Control(parent, name, new QWidget)
+{
+    widget().installEventFilter(this);
+}
+
+bool Frame::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == &widget() && event->type() == QEvent::MouseButtonRelease && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+        emit Click();
+    return Control::eventFilter(watched, event);
+}
+
+} // namespace orvane

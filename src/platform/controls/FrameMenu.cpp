@@ -1,0 +1,35 @@
+#include "platform/controls/FrameMenu.h"
+
+#include "platform/controls/ActiveBar.h"
+#include "platform/controls/BandActions.h"
+#include "platform/controls/BarLooks.h"
+#include "platform/controls/ToolAction.h"
+
+namespace orvane
+{
+
+FrameMenu::FrameMenu()
+{
+    setFont(barFont());
+    setNativeMenuBar(false); // a desktop's own menu bar has no room for the buttons of a maximised child
+}
+
+void FrameMenu::showBar(ActiveBar &bar)
+{
+    m_bar = &bar;
+    auto *entries = new BandActions(bar, sourceOf(bar.Bands(0)), *this);
+    connect(&bar, &ActiveBar::Changed, entries, &BandActions::follow);
+    connect(this, &QMenuBar::triggered, &bar, [this](QAction *action) {
+        if (!actions().contains(action)) return; // the menus tell of their own entries
+        if (const auto tool = static_cast<ToolAction *>(action)->tool()) m_bar->press(*tool);
+    });
+    entries->follow();
+}
+
+void FrameMenu::leaveEvent(QEvent *event)
+{
+    QMenuBar::leaveEvent(event);
+    if (m_bar && !activeAction()) m_bar->hover({});
+}
+
+} // namespace orvane

@@ -1,0 +1,28 @@
+// A bar on show as the menu of a frame: its first band's tools, each opening its flyout.
+#pragma once
+
+#include <QMenuBar>
+#include <QPointer>
+
+namespace orvane
+{
+
+class ActiveBar;
+
+class FrameMenu : public QMenuBar
+{
+    Q_OBJECT
+
+public:
+    FrameMenu();
+
+    void showBar(ActiveBar &bar);
+
+protected:
+    void leaveEvent(QEvent *event) override;
+
+private:
+    QPointer<ActiveBar> m_bar;
+};
+
+} // namespace orvane

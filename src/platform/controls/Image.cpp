@@ -1,0 +1,19 @@
+#include "platform/controls/Image.h"
+
+#include "platform/controls/PictureView.h"
+
+namespace orvane
+{
+
+Image::Image(Container &parent, const QString &name)
+    : Control(parent, name, new PictureView), m_view(static_cast<PictureView &>(widget()))
+{
+    connect(&m_view, &PictureView::clicked, this, &Image::Click);
+}
+
+void Image::setPicture(const QString &name)
+{
+    m_view.setPicture(name);
+}
+
+} // namespace orvane

@@ -1,0 +1,56 @@
+#include "platform/controls/Label.h"
+
+#include "platform/controls/CaptionFont.h"
+#include "platform/controls/Colour.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+
+namespace orvane
+{
+
+Label::Label(Container &parent, const QString &name)
+    : Control(parent, name, new QLabel), m_label(static_cast<QLabel &>(widget()))
+{
+    m_label.setTextFormat(Qt::PlainText);
+    m_label.setWordWrap(true);
+    m_label.setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_label.installEventFilter(this);
+}
+
+QString Label::Caption() const
+{
+    return m_label.text();
+}
+
+void Label::setCaption(const QString &caption)
+{
+    m_label.setText(caption);
+    speak();
+}
+
+void Label::setFont(const QString &family, double points, bool bold)
+{
+    orvane::setFont(m_label, family, points, bold);
+}
+
+void Label::setForeColor(int colour)
+{
+    QPalette palette = m_label.palette();
+    palette.setColor(QPalette::WindowText, toColour(colour));
+    m_label.setPalette(palette);
+}
+
+void Label::setCentered()
+{
+    m_label.setAlignment(Qt::AlignCenter);
+}
+
+bool Label::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == &widget() && event->type() == QEvent::MouseButtonRelease && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+        emit Click();
+    return Control::eventFilter(watched, event);
+}
+
+} // namespace orvane

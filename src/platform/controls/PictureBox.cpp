@@ -1,0 +1,26 @@
+#include "platform/controls/PictureBox.h"
+
+#include "platform/controls/PictureView.h"
+
+namespace orvane
+{
+
+PictureBox::PictureBox(Container &parent, const QString &name)
+    : Control(parent, name, new PictureView), m_view(static_cast<PictureView &>(widget()))
+{
+}
+
+void PictureBox::setPicture(const QString &name)
+{
+    m_view.setPicture(name);
+}
+
+void PictureBox::setBackColor(const QColor &colour)
+{
+    QPalette palette = m_view.palette();
+    palette.setColor(QPalette::Window, colour);
+    m_view.setPalette(palette);
+    m_view.setAutoFillBackground(true);
+}
+
+} // namespace orvane

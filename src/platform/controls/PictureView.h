@@ -1,0 +1,30 @@
+// Shows a drawing of the program, sharp at every scale.
+#pragma once
+
+#include <QSvgRenderer>
+#include <QWidget>
+
+namespace orvane
+{
+
+class PictureView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    void setPicture(const QString &name); // a file under pictures/, without its ending
+
+signals:
+    void clicked();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    QSvgRenderer m_drawing;
+};
+
+} // namespace orvane

@@ -1,0 +1,134 @@
+#include "platform/controls/ToolField.h"
+
+#include "platform/controls/ActiveBar.h"
+#include "platform/controls/BarLooks.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace orvane
+{
+
+namespace
+{
+constexpr int Gap = 4;
+constexpr int MostLines = 20;
+
+// Only a new list is put into the box, since that would close it; the text of the field is not the box's to change.
+void followList(QComboBox &box, const QStringList &entries)
+{
+    QStringList present;
+    for (int i = 0; i < box.count(); ++i)
+        present += box.itemText(i);
+    if (present == entries) return;
+    box.clear();
+    box.addItems(entries);
+    box.setMaxVisibleItems(qBound(1, static_cast<int>(entries.size()), MostLines));
+}
+} // namespace
+
+ToolField::ToolField(ActiveBar &bar, const std::shared_ptr<Tool> &tool, QWidget *parent)
+    : QWidget(parent), m_bar(&bar), m_tool(tool), m_label(new QLabel(this))
+{
+    setFont(barFont());
+    makeField(*tool);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(Gap, 0, Gap, 0);
+    row->setSpacing(Gap);
+    row->addWidget(m_label);
+    row->addWidget(&focusTarget());
+    m_label->setBuddy(&focusTarget());
+    m_edit->installEventFilter(this);
+    connect(m_edit, &QLineEdit::textEdited, this, [this](const QString &text) {
+        if (const auto edited = m_tool.lock()) edited->setText(text);
+    });
+}
+
+void ToolField::makeField(const Tool &tool)
+{
+    if (tool.Kind() == ToolKind::ComboBox) {
+        m_combo = new QComboBox(this);
+        m_combo->setEditable(true);
+        m_combo->setCompleter(nullptr);
+        m_combo->setInsertPolicy(QComboBox::NoInsert);
+        m_combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        connect(m_combo, &QComboBox::activated, this, &ToolField::picked);
+        m_edit = m_combo->lineEdit();
+    } else {
+        m_edit = new QLineEdit(this);
+    }
+    focusTarget().setObjectName(tool.Name());
+    if (tool.Width() > 0) focusTarget().setFixedWidth(tool.Width());
+}
+
+QWidget &ToolField::focusTarget()
+{
+    return m_combo ? *static_cast<QWidget *>(m_combo) : *m_edit;
+}
+
+void ToolField::follow(const Tool &tool, bool withAccessKey)
+{
+    const QString caption = shownCaption(tool);
+    m_label->setText(withAccessKey ? caption : withoutAccessKey(caption));
+    focusTarget().setAccessibleName(spokenName(tool));
+    focusTarget().setAccessibleDescription(tool.ToolTipText());
+    setToolTip(tool.ToolTipText().isEmpty() ? spokenName(tool) : tool.ToolTipText());
+    setEnabled(tool.Enabled());
+    if (m_combo) {
+        const QSignalBlocker quiet(m_combo);
+        followList(*m_combo, tool.List());
+        if (tool.ListIndex() >= 0) m_combo->setCurrentIndex(tool.ListIndex());
+    }
+    if (m_edit->text() != tool.Text()) m_edit->setText(tool.Text());
+}
+
+int ToolField::widthFor(bool compact) const
+{
+    const QWidget &field = m_combo ? *static_cast<const QWidget *>(m_combo) : *m_edit;
+    const int fieldWidth = field.minimumWidth() > 0 ? field.minimumWidth() : field.sizeHint().width();
+    const bool withLabel = !compact && !m_label->text().isEmpty();
+    return 2 * Gap + fieldWidth + (withLabel ? m_label->sizeHint().width() + Gap : 0);
+}
+
+void ToolField::setCompact(bool compact)
+{
+    m_label->setVisible(!compact && !m_label->text().isEmpty());
+}
+
+bool ToolField::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_edit || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    const QPointer<ToolField> self = this;
+    if (enter)
+        keyPressed('\r');
+    else if (!key->text().isEmpty())
+        keyPressed(key->text().at(0).unicode());
+    return enter || !self; // Enter is the bar's
+}
+
+void ToolField::keyPressed(int keyAscii)
+{
+    const auto tool = m_tool.lock();
+    if (!tool || !m_bar) return;
+    const QPointer<ToolField> self = this;
+    emit m_bar->KeyPress(tool.get(), keyAscii);
+    if (self && keyAscii == '\r') emit chosen();
+}
+
+void ToolField::picked(int index)
+{
+    const auto tool = m_tool.lock();
+    if (!tool || !m_bar) return;
+    tool->setListIndex(index);
+    const QPointer<ToolField> self = this;
+    emit m_bar->ComboSelChange(tool.get());
+    if (self) emit chosen();
+}
+
+} // namespace orvane

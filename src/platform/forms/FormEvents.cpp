@@ -1,0 +1,106 @@
+// What the toolkit tells a window, turned into the window's own events.
+
+#include "platform/forms/Form.h"
+#include "platform/system/Guard.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+namespace orvane
+{
+
+namespace
+{
+constexpr int CarriageReturn = 13;
+
+// Letters and digits have their own codes; the function keys follow F1.
+int keyCodeOf(const QKeyEvent &event)
+{
+    if (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F12) return KeyF1 + event.key() - Qt::Key_F1;
+    return event.key();
+}
+
+int asciiOf(const QKeyEvent &event)
+{
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return CarriageReturn;
+    return event.text().isEmpty() ? 0 : event.text().front().unicode();
+}
+
+int shiftStateOf(const QKeyEvent &event)
+{
+    const Qt::KeyboardModifiers modifiers = event.modifiers();
+    return (modifiers & Qt::ShiftModifier ? 1 : 0) + (modifiers & Qt::ControlModifier ? 2 : 0) +
+           (modifiers & Qt::AltModifier ? 4 : 0);
+}
+} // namespace
+
+bool Form::eventFilter(QObject *watched, QEvent *event)
+{
+    if (!m_loaded) return false;
+    const FormPin pin(*this);
+    if (event->type() == QEvent::Resize && watched == m_surface) guarded([this] { Form_Resize(); });
+    if (watched != m_shell) return false;
+    switch (event->type()) {
+    case QEvent::Close:
+        closeAsked(static_cast<QCloseEvent &>(*event));
+        return true;
+    case QEvent::WindowStateChange:
+        stateChanged();
+        break;
+    case QEvent::WindowActivate:
+        activationChanged(true);
+        break;
+    case QEvent::WindowDeactivate:
+        activationChanged(false);
+        break;
+    case QEvent::KeyPress:
+        guarded([&] { keyPressed(static_cast<QKeyEvent &>(*event)); });
+        break;
+    case QEvent::KeyRelease:
+        guarded([&] { keyReleased(static_cast<QKeyEvent &>(*event)); });
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+// The window goes by Unload alone, so the toolkit's own close never comes to pass.
+void Form::closeAsked(QCloseEvent &event)
+{
+    event.ignore();
+    guarded([this] { Unload(ByUser); });
+}
+
+// The inside of a minimised window keeps its size, so the toolkit sends it no resize.
+void Form::stateChanged()
+{
+    const int state = WindowState();
+    const bool passesMinimized = (state == Minimized) != (m_lastState == Minimized);
+    m_lastState = state;
+    if (Visible()) m_state = state;
+    if (passesMinimized) guarded([this] { Form_Resize(); });
+}
+
+void Form::activationChanged(bool active)
+{
+    guarded([&] {
+        if (active)
+            activated();
+        else
+            deactivated();
+    });
+}
+
+void Form::keyPressed(const QKeyEvent &event)
+{
+    Form_KeyDown(keyCodeOf(event), shiftStateOf(event));
+    if (const int ascii = asciiOf(event)) Form_KeyPress(ascii);
+}
+
+void Form::keyReleased(const QKeyEvent &event)
+{
+    Form_KeyUp(keyCodeOf(event), shiftStateOf(event));
+}
+
+} // namespace orvane

@@ -1,0 +1,64 @@
+#include "platform/forms/MDIForm.h"
+
+#include "platform/forms/MDIChild.h"
+#include "platform/system/Guard.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QStatusBar>
+#include <algorithm>
+
+namespace orvane
+{
+
+MDIForm::MDIForm(const QString &name) : MDIForm(name, new QMainWindow, new QMdiArea) {}
+
+MDIForm::MDIForm(const QString &name, QMainWindow *window, QMdiArea *area)
+    : Form(name, window, area->viewport()), m_area(area), m_status(new QLabel)
+{
+    area->setObjectName(name + QStringLiteral("Area"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    area->setBackground(window->palette().brush(QPalette::Mid));
+    window->setCentralWidget(area);
+    m_status->setObjectName(QStringLiteral("status"));
+    window->statusBar()->setSizeGripEnabled(false);
+    window->statusBar()->addWidget(m_status, 1);
+    connect(area, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow *sub) {
+        MDIChild *child = sub ? MDIChild::of(*sub) : nullptr;
+        if (child && !m_choosing) guarded([&] { childActivated(child); });
+    });
+}
+
+void MDIForm::setStatusText(const QString &text)
+{
+    m_status->setText(text);
+}
+
+void MDIForm::childActivated(MDIChild *child)
+{
+    if (child == m_active || !child->Loaded() || !child->Visible()) return;
+    MDIChild *before = m_active;
+    m_active = child;
+    std::erase(m_history, child);
+    m_history.push_back(child);
+    if (before && before->Loaded()) before->deactivated();
+    if (m_active == child) child->activated();
+}
+
+// Hiding a maximised child would leave it active and nothing maximised, so the frame chooses the successor itself.
+void MDIForm::childLeft(MDIChild &child, bool wasMaximized)
+{
+    std::erase(m_history, &child);
+    if (m_active != &child) return;
+    m_active = nullptr;
+    if (m_history.empty()) return;
+    MDIChild *successor = m_history.back();
+    m_area->setActiveSubWindow(&successor->subWindow());
+    if (wasMaximized && successor->WindowState() == Normal) successor->setWindowState(Maximized);
+    childActivated(successor);
+}
+
+} // namespace orvane

@@ -1,0 +1,46 @@
+// The frame: a main window whose inside is the area of its child windows.
+#pragma once
+
+#include "platform/forms/Form.h"
+
+#include <vector>
+
+class QLabel;
+class QMainWindow;
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace orvane
+{
+
+class MDIChild;
+
+class MDIForm : public Form
+{
+    Q_OBJECT
+
+public:
+    // The child that is active among the children, whichever window of the program has the focus, or nullptr.
+    MDIChild *ActiveForm() const { return m_active; }
+
+    void setStatusText(const QString &text); // at the foot of the frame
+    QMdiArea &area() const { return *m_area; }
+
+protected:
+    explicit MDIForm(const QString &name);
+
+private:
+    friend class MDIChild;
+
+    MDIForm(const QString &name, QMainWindow *window, QMdiArea *area);
+    void childActivated(MDIChild *child);
+    void childLeft(MDIChild &child, bool wasMaximized);
+
+    QMdiArea *m_area;
+    QLabel *m_status;
+    MDIChild *m_active = nullptr;
+    std::vector<MDIChild *> m_history; // the last is the one that was active last
+    bool m_choosing = false;
+};
+
+} // namespace orvane

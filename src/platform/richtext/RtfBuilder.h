@@ -1,0 +1,57 @@
+// Puts paragraphs into a document: gathers the runs of one, then inserts them with formats that are made once.
+#pragma once
+
+#include "RtfFormats.h"
+#include <QHash>
+#include <QTextCursor>
+#include <vector>
+
+class QTextList;
+
+namespace orvane
+{
+
+class RtfBuilder
+{
+public:
+    // The document must be empty, and inside an edit block for as long as the builder lives.
+    explicit RtfBuilder(QTextDocument &document) : m_cursor(&document) {}
+
+    void setDefaultTab(int twips) { m_defaultTab = twips; }
+    void addText(QStringView text, const RtfCharacters &characters);
+
+    // The mark's characters are the format of an empty paragraph and of a bullet.
+    void endParagraph(const RtfParagraph &paragraph, const RtfCharacters &mark);
+    // The paragraph begun next starts a page; text before ends its paragraph.
+    void breakPage(const RtfParagraph &paragraph, const RtfCharacters &mark);
+    // The end of the document: ends a paragraph that has text, or an empty document's only one.
+    void finish(const RtfParagraph &paragraph, const RtfCharacters &mark);
+
+private:
+    struct Run {
+        qsizetype end;
+        RtfCharacters characters;
+    };
+
+    void beginRun(const RtfCharacters &characters);
+    void applyDefaultTab();
+    void insertBlock(const QTextBlockFormat &format, const QTextCharFormat &mark);
+    void insertRuns();
+    QTextBlockFormat blockFormat(const RtfParagraph &paragraph);
+    void joinList();
+    const QTextCharFormat &charFormat(const RtfCharacters &characters);
+
+    QTextCursor m_cursor;
+    int m_defaultTab = DefaultTabTwips;
+    QString m_text;
+    std::vector<Run> m_runs;
+    QHash<RtfCharacters, QTextCharFormat> m_charFormats;
+    RtfParagraph m_lastParagraph;
+    QTextBlockFormat m_lastFormat;
+    QTextList *m_list = nullptr;
+    bool m_bullet = false;
+    bool m_first = true;
+    bool m_pageBreak = false;
+};
+
+} // namespace orvane

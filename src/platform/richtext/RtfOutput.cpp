@@ -1,0 +1,88 @@
+#include "RtfOutput.h"
+
+#include "RtfCodePage.h"
+#include "RtfTokenizer.h"
+#include <algorithm>
+
+namespace orvane
+{
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace
+{
+
+bool isPlain(QChar c)
+{
+    return c >= u' ' && c < u'\x7F' && c != u'\\' && c != u'{' && c != u'}';
+}
+
+// Behind a control word, these would be taken for a part of it.
+bool continuesWord(QChar c)
+{
+    return c == u' ' || c == u'-' || c.isLetterOrNumber();
+}
+
+QString symbolFor(char16_t character)
+{
+    switch (character) {
+    case u'\\':
+    case u'{':
+    case u'}':
+        return u'\\' + QString(QChar(character));
+    case QChar::Nbsp:
+        return u"\\~"_s;
+    case QChar::SoftHyphen:
+        return u"\\-"_s;
+    case 0x2011:
+        return u"\\_"_s;
+    default:
+        return {};
+    }
+}
+
+QString encoded(char16_t character)
+{
+    const int byte = westernByte(character);
+    if (byte < 0) return u"\\u%1?"_s.arg(qint16(character));
+    return u"\\'"_s + QString::number(byte, 16).rightJustified(2, u'0');
+}
+
+} // namespace
+
+void RtfOutput::addCodes(const QString &codes)
+{
+    if (codes.isEmpty()) return;
+    m_text += codes;
+    m_afterWord = !codes.endsWith(u'}');
+}
+
+void RtfOutput::addText(QStringView text)
+{
+    while (!text.isEmpty()) {
+        const auto *special = std::find_if_not(text.begin(), text.end(), isPlain);
+        addPlain(text.left(special - text.begin()));
+        if (special != text.end()) addSpecial(special->unicode());
+        text = text.sliced(std::min<qsizetype>(special - text.begin() + 1, text.size()));
+    }
+}
+
+void RtfOutput::addPlain(QStringView plain)
+{
+    if (plain.isEmpty()) return;
+    if (m_afterWord && continuesWord(plain.front())) m_text += u' ';
+    m_text += plain;
+    m_afterWord = false;
+}
+
+void RtfOutput::addSpecial(char16_t character)
+{
+    if (character == u'\t') return addCodes(u"\\tab"_s);
+    if (character == QChar::LineSeparator) return addCodes(u"\\line"_s);
+    if (!isRtfTextCharacter(character)) return;
+    const QString symbol = symbolFor(character);
+    m_text += symbol.isEmpty() ? encoded(character) : symbol;
+    m_afterWord = false;
+}
+
+} // namespace orvane

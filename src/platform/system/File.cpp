@@ -1,0 +1,20 @@
+#include "platform/system/File.h"
+
+#include "platform/system/RunTimeError.h"
+
+#include <QFile>
+
+namespace orvane
+{
+
+QByteArray readWholeFile(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.exists())
+        throw RunTimeError(FileNotFound, QStringLiteral("The file \"%1\" isn't there.").arg(fileName));
+    if (!file.open(QIODevice::ReadOnly))
+        throw RunTimeError(PathAccessError, QStringLiteral("The file \"%1\" can't be read.").arg(fileName));
+    return file.readAll();
+}
+
+} // namespace orvane

@@ -1,0 +1,15 @@
+// Texts that stand for numbers.
+#pragma once
+
+#include <QString>
+
+namespace orvane
+{
+
+// The value of a decimal number with blanks around it or none; any other text is refused with error 13.
+double toNumber(const QString &text);
+
+// The same as a 32-bit integer, rounded; error 6 where it doesn't fit.
+int toInteger(const QString &text);
+
+} // namespace orvane

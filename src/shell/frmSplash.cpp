@@ -1,0 +1,116 @@
+#include "shell/frmSplash.h"
+
+#include "command_center/frmCommandCentre.h"
+#include "command_center/frmInfo.h"
+#include "platform/controls/Colour.h"
+#include "platform/controls/Palette.h"
+#include "platform/forms/DefaultInstance.h"
+#include "platform/system/Application.h"
+#include "platform/forms/Wiring.h"
+#include "platform/system/Guard.h"
+#include "platform/system/SendKeys.h"
+#include "platform/system/SettingsStore.h"
+#include "shell/SharedState.h"
+#include "shell/mdiMain.h"
+#include "tour/frmDemo.h"
+
+namespace orvane
+{
+
+namespace
+{
+QString storedDetail(const QString &key)
+{
+    return GetSetting(QStringLiteral("orvane Quillmark CD"), QStringLiteral("UserDetails"), key,
+                      QStringLiteral("None"));
+}
+} // namespace
+
+frmSplash::frmSplash()
+    : Window(QStringLiteral("frmSplash"), NoBorder),
+      gradient(*this, QStringLiteral("zelGradient"), zelGradient::Ground), Picture1(*this, QStringLiteral("Picture1")),
+      Frame1(*this, QStringLiteral("Frame1")), Label1(Frame1, QStringLiteral("Label1")),
+      lblCompanyProduct(Frame1, QStringLiteral("lblCompanyProduct")),
+      lblUserName(Frame1, QStringLiteral("lblUserName")), lblPlatform(Frame1, QStringLiteral("lblPlatform")),
+      lblVersion(Frame1, QStringLiteral("lblVersion")), lblWarning(Frame1, QStringLiteral("lblWarning")),
+      lblCopyright(Frame1, QStringLiteral("lblCopyright")), imgLogo(Frame1, QStringLiteral("imgLogo")),
+      lblUserCompany(Frame1, QStringLiteral("lblUserCompany")), imgTitle(Frame1, QStringLiteral("imgTitle"))
+{
+    setCaption(QStringLiteral("orvane"));
+    placeControls();
+    dressLabels();
+    wire(Frame1, &Frame::Click, *this, [](frmSplash &self) { self.Unload(); });
+}
+
+void frmSplash::placeControls()
+{
+    setFixedDesignSize(7500, 5400);
+    gradient.Move(0, 0, 7500, 5400);
+    Picture1.Move(300, 240, 6900, 1800);
+    Frame1.Move(300, 2160, 6900, 3090);
+    imgTitle.Move(0, 0, 1650, 480);
+    lblCompanyProduct.Move(1800, 60, 1500, 420);
+    Label1.Move(3300, 60, 1200, 420);
+    imgLogo.Move(5400, 30, 1500, 420);
+    lblVersion.Move(0, 660, 1800, 270);
+    lblPlatform.Move(1800, 660, 1800, 270);
+    lblUserName.Move(0, 1080, 6900, 270);
+    lblUserCompany.Move(0, 1380, 6900, 270);
+    lblCopyright.Move(0, 1860, 6900, 480);
+    lblWarning.Move(0, 2400, 6900, 660);
+}
+
+void frmSplash::dressLabels()
+{
+    Picture1.setPicture(QStringLiteral("splash"));
+    Picture1.setPurpose(QStringLiteral("orvane, a toolkit for environmental management"));
+    imgTitle.setPicture(QStringLiteral("imgTitle"));
+    imgTitle.setPurpose(QStringLiteral("orvane"));
+    imgLogo.setPicture(QStringLiteral("logo"));
+    imgLogo.setPurpose(QStringLiteral("orvane"));
+    lblCompanyProduct.setCaption(QStringLiteral("orvane"));
+    lblCompanyProduct.setFont(QStringLiteral("Arial"), 15, true);
+    Label1.setCaption(QStringLiteral("DEMO"));
+    Label1.setFont(QStringLiteral("Arial"), 15, true);
+    Label1.setForeColor(fromColour(palette::RedDot));
+    lblUserName.setFont(QStringLiteral("Arial"), 9.75, true);
+    lblUserCompany.setFont(QStringLiteral("Arial"), 9.75, false);
+    lblCopyright.setFont(QStringLiteral("Arial"), 8.25, false);
+    lblCopyright.setCaption(QStringLiteral("This program, its texts and its pictures are protected by copyright."));
+    lblWarning.setFont(QStringLiteral("Arial"), 8.25, false);
+    lblWarning.setCaption(
+        QStringLiteral("Please don't pass on copies unless your licence allows it. The sample documents "
+                       "are for guidance: check them against the law and the standard that apply to "
+                       "your organization before you rely on them."));
+}
+
+void frmSplash::Form_Load()
+{
+    Shared().TourStepsMuted = False;
+    lblPlatform.setCaption(QStringLiteral("95/98/NT4"));
+    lblVersion.setCaption(QStringLiteral("Version %1.%2").arg(App().Major()).arg(App().Minor()));
+    // Not the key that the user details are saved under: a name typed there never gets here.
+    lblUserName.setCaption(
+        storedDetail(QStringLiteral("UserName")).replace(QStringLiteral("%20"), QStringLiteral(" ")));
+    lblUserCompany.setCaption(storedDetail(QStringLiteral("Company")));
+    App().setHelpFile(App().fileBeside(QStringLiteral("Orvane.hlp")));
+}
+
+void frmSplash::Form_Activate()
+{
+    Default<frmDemo>().setVisible(false);
+    DoEvents();
+    Default<mdiMain>();
+    DoEvents();
+    Default<frmCommandCentre>();
+    DoEvents();
+    Default<frmInfo>().Show();
+    Unload();
+}
+
+void frmSplash::Form_KeyPress(int)
+{
+    Unload();
+}
+
+} // namespace orvane

@@ -1,0 +1,25 @@
+// A move script: fields between "/". The first names the step to show afterwards, the second the verb.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace orvane
+{
+
+class TourScript
+{
+public:
+    explicit TourScript(const QString &text) : m_text(text), m_fields(text.split(u'/')) {}
+
+    // Neither a step without a move nor a button that no step has reached yet.
+    bool moves() const { return m_text != QStringLiteral("(none)") && !m_text.isEmpty(); }
+    const QString &field(int index) const; // error 9 where the script has too few
+    QString lastCharacter() const { return m_text.right(1); }
+
+private:
+    QString m_text;
+    QStringList m_fields;
+};
+
+} // namespace orvane
