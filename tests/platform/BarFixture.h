@@ -115,7 +115,7 @@ inline constexpr BandRow PreviewBands[] = {{.name = u"bndPreview", .caption = u"
 class BarWindow : public Window
 {
 public:
-    explicit BarWindow(BarTable table = LinkBands, int width = 900)
+    explicit BarWindow(BarTable table = LinkBands, int width = 700)
         : Window(QStringLiteral("frmBar"), FixedBorder),
           bar(std::make_unique<ActiveBar>(*this, QStringLiteral("mnuLinks"), table)), edit(new QLineEdit(&surface()))
     {
@@ -145,7 +145,7 @@ public:
     BarFrame()
         : MDIForm(QStringLiteral("mdiMain")), bar(*this, QStringLiteral("mnuMain"), MenuBands, ActiveBar::MenuBar)
     {
-        setDesignSize(900 * TwipsPerPixel, 500 * TwipsPerPixel);
+        setDesignSize(750 * TwipsPerPixel, 500 * TwipsPerPixel);
     }
 
     ActiveBar bar;
@@ -158,7 +158,7 @@ public:
         : MDIChild(frame, QStringLiteral("frmChild")), bar(*this, QStringLiteral("mnuLinks"), LinkBands),
           edit(new QLineEdit(&surface()))
     {
-        bar.Move(0, 0, 800 * TwipsPerPixel, 28 * TwipsPerPixel);
+        bar.Move(0, 0, 700 * TwipsPerPixel, 28 * TwipsPerPixel);
         edit->setGeometry(0, 100, 200, 24);
     }
 

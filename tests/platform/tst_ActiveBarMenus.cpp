@@ -21,7 +21,7 @@ QString pressedName(const QSignalSpy &clicks)
 
 QMenuBar &menuBarOf(BarFrame &frame)
 {
-    return *qobject_cast<QMenuBar *>(qobject_cast<QMainWindow &>(frame.shell()).menuWidget());
+    return *qobject_cast<QMenuBar *>(qobject_cast<QMainWindow *>(&frame.shell())->menuWidget());
 }
 
 // Shows a frame, and a document window in it whose edit field has the focus.

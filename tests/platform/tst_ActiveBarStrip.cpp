@@ -23,16 +23,11 @@ QRect placeOnScreen(const QWidget &widget)
     return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size());
 }
 
-void moveMouseTo(QWidget &widget)
-{
-    QWidget *window = widget.window();
-    QTest::mouseMove(window->windowHandle(), widget.mapTo(window, widget.rect().center()));
-}
-
 // What a button shows near its left edge, beside picture and caption.
-QColor groundOf(QWidget &button)
+QColor groundOf(const QWidget &button)
 {
-    return button.grab().toImage().pixelColor(3, button.height() / 2);
+    const QImage strip = button.parentWidget()->grab().toImage();
+    return strip.pixelColor(button.x() + 3, button.geometry().center().y());
 }
 
 // The bar at so many pixels of width.
@@ -494,7 +489,7 @@ void tst_ActiveBarStrip::captionsGiveWayFromTheRight()
     QCOMPARE(close->toolTip(), u"Close "_s);
     QCOMPARE(close->accessibleName(), u"Close"_s);
     QVERIFY(!window.button(u"more"_s)->isVisible());
-    narrow(window, 900);
+    narrow(window, 700);
     QVERIFY(hasCaption(*close));
 }
 
@@ -502,7 +497,7 @@ void tst_ActiveBarStrip::whatFindsNoRoomIsInTheMenuOfTheRest()
 {
     BarWindow window;
     window.open();
-    narrow(window, 120);
+    narrow(window, 160);
     QToolButton *more = window.button(u"more"_s);
     QVERIFY(more->isVisible());
     QVERIFY(!window.button(u"Close"_s)->isVisible());
@@ -522,7 +517,7 @@ void tst_ActiveBarStrip::whatFindsNoRoomIsInTheMenuOfTheRest()
 void tst_ActiveBarStrip::nothingIsCutOff_data()
 {
     QTest::addColumn<int>("width");
-    for (const int width : {40, 60, 90, 120, 200, 300, 350, 400, 450, 500, 600, 900})
+    for (const int width : {40, 60, 90, 120, 200, 300, 350, 400, 450, 500, 600, 700})
         QTest::addRow("%d pixels", width) << width;
 }
 
@@ -663,9 +658,9 @@ void tst_ActiveBarStrip::whatIsPointedAtIsDescribed()
     window.open();
     QString told;
     connect(window.bar.get(), &ActiveBar::Hover, this, [&](const QString &text) { told = text; });
-    moveMouseTo(*window.button(u"Mode"_s));
+    QTest::mouseMove(window.button(u"Mode"_s));
     QTRY_COMPARE(told, u"Changes the version"_s);
-    moveMouseTo(*window.edit);
+    QTest::mouseMove(window.edit);
     QTRY_COMPARE(told, QString());
 }
 
@@ -697,8 +692,10 @@ void tst_ActiveBarStrip::theFirstBandHidesTheBar()
 void tst_ActiveBarStrip::anUnplacedBarFillsItsPanel()
 {
     BarWindow window;
+    window.open();
     SSPanel panel(window, u"ssMnu"_s);
     panel.Move(0, 600, 6000, 420);
+    panel.setVisible(true);
     ActiveBar bar(panel, u"mnuNav"_s, LinkBands);
     QCOMPARE(bar.widget().geometry(), panel.widget().contentsRect());
     panel.setWidth(7500);

@@ -1,6 +1,6 @@
 // Texts from the machine's own record, by length and by ending.
-#include "RegistryHost.h"
 #include "shell/ReadRegistryString.h"
+#include "shell/RegistryHost.h"
 
 #include <QTest>
 
@@ -18,8 +18,8 @@ class tst_ReadRegistryString : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { m_host.emplace(); }
+    void cleanup() { m_host.reset(); }
     void aKeyThatCantBeOpenedGivesASentence_data();
     void aKeyThatCantBeOpenedGivesASentence();
     void aMissingValueIsEmpty();
@@ -32,25 +32,14 @@ private slots:
 private:
     void store(const QString &data);
 
-    RegistryHost<Host> m_host;
+    std::optional<test::RegistryHost> m_host;
 };
-
-void tst_ReadRegistryString::init()
-{
-    m_host = {};
-    setHost(&m_host);
-}
-
-void tst_ReadRegistryString::cleanup()
-{
-    setHost(nullptr);
-}
 
 void tst_ReadRegistryString::store(const QString &data)
 {
     RegistryKey key;
     key.set(u"DefName"_s, {RegistryString, data});
-    m_host.setKey(HKEY_USERS, SubKey, key);
+    m_host->setKey(HKEY_USERS, SubKey, key);
 }
 
 void tst_ReadRegistryString::aKeyThatCantBeOpenedGivesASentence_data()

@@ -43,7 +43,7 @@ std::shared_ptr<Tool> BarMenu::choose(const DropPlace &place)
 void BarMenu::note(QAction *action)
 {
     if (&root() != this) return;
-    const auto tool = static_cast<ToolAction *>(action)->tool();
+    const auto tool = static_cast<ToolAction *>(action)->pressable();
     if (isVisible()) close();
     if (m_choosing)
         m_chosen = tool;

@@ -1,5 +1,6 @@
 #include "platform/controls/CaptionButton.h"
 
+#include "platform/controls/CaptionFont.h"
 #include "platform/controls/Palette.h"
 
 #include <QKeyEvent>
@@ -15,12 +16,14 @@ constexpr int Margin = 6;
 constexpr int CornerSize = 10;
 constexpr int TopHeight = 36;
 constexpr int MarkSize = 4;
+constexpr double CaptionPoints = 8.25;
 } // namespace
 
 CaptionButton::CaptionButton(PicturePlace place) : m_place(place)
 {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
+    orvane::setFont(*this, QStringLiteral("Arial"), CaptionPoints, false);
 }
 
 void CaptionButton::setPicture(const QString &name)

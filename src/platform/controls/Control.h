@@ -72,6 +72,7 @@ public:
     void ZOrderBack(); // behind the other controls of its container
 
     QWidget &widget() const { return *m_widget; }
+    QWidget &mouseTarget() const { return voice(); } // the widget under the mouse
 
     // The control that shows this widget or holds it, or nullptr.
     static Control *of(QWidget *widget);
@@ -85,6 +86,7 @@ protected:
 
     // The widget that has focus, cursor and a spoken name where it isn't the outer one.
     virtual QWidget &voice() const { return *m_widget; }
+
 
 private:
     void place();

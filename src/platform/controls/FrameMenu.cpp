@@ -21,7 +21,7 @@ void FrameMenu::showBar(ActiveBar &bar)
     connect(&bar, &ActiveBar::Changed, entries, &BandActions::follow);
     connect(this, &QMenuBar::triggered, &bar, [this](QAction *action) {
         if (!actions().contains(action)) return; // the menus tell of their own entries
-        if (const auto tool = static_cast<ToolAction *>(action)->tool()) m_bar->press(*tool);
+        if (const auto tool = static_cast<ToolAction *>(action)->pressable()) m_bar->press(*tool);
     });
     entries->follow();
 }

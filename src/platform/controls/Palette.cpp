@@ -44,7 +44,7 @@ void setGrounds(QPalette &looks)
 // The two families that no font package stands in for by itself.
 void addSubstitutes()
 {
-    QFont::insertSubstitution(QStringLiteral("MS Sans Serif"), QStringLiteral("Arial"));
+    QFont::insertSubstitution(QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"));
     QFont::insertSubstitution(QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans"));
 }
 } // namespace

@@ -18,6 +18,12 @@ ToolAction::ToolAction(ActiveBar &bar, const std::shared_ptr<Tool> &tool, QObjec
     });
 }
 
+std::shared_ptr<Tool> ToolAction::pressable() const
+{
+    const auto pressed = tool();
+    return pressed && pressed->Flyout().isEmpty() ? pressed : nullptr;
+}
+
 void ToolAction::follow()
 {
     const auto followed = tool();

@@ -19,7 +19,8 @@ public:
     ToolAction(ActiveBar &bar, const std::shared_ptr<Tool> &tool, QObject *parent);
 
     std::shared_ptr<Tool> tool() const { return m_tool.lock(); } // null when the tool was removed
-    void follow();                                               // takes the tool's present state over
+    std::shared_ptr<Tool> pressable() const; // null also where the tool does no more than open its band
+    void follow();                           // takes the tool's present state over
 
 protected:
     QWidget *createWidget(QWidget *parent) override;

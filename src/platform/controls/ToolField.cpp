@@ -27,6 +27,7 @@ void followList(QComboBox &box, const QStringList &entries)
     if (present == entries) return;
     box.clear();
     box.addItems(entries);
+    box.setCurrentIndex(-1);
     box.setMaxVisibleItems(qBound(1, static_cast<int>(entries.size()), MostLines));
 }
 } // namespace
@@ -42,7 +43,7 @@ ToolField::ToolField(ActiveBar &bar, const std::shared_ptr<Tool> &tool, QWidget 
     row->addWidget(m_label);
     row->addWidget(&focusTarget());
     m_label->setBuddy(&focusTarget());
-    m_edit->installEventFilter(this);
+    focusTarget().installEventFilter(this); // a combo box hands keys on to its line edit
     connect(m_edit, &QLineEdit::textEdited, this, [this](const QString &text) {
         if (const auto edited = m_tool.lock()) edited->setText(text);
     });
@@ -101,7 +102,7 @@ void ToolField::setCompact(bool compact)
 
 bool ToolField::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_edit || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+    if (watched != &focusTarget() || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
     const auto *key = static_cast<QKeyEvent *>(event);
     const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
     const QPointer<ToolField> self = this;

@@ -27,7 +27,7 @@ QWidget *newSurface(QMdiSubWindow &subWindow)
 MDIChild::MDIChild(MDIForm &frame, const QString &name) : MDIChild(frame, name, new QMdiSubWindow) {}
 
 MDIChild::MDIChild(MDIForm &frame, const QString &name, QMdiSubWindow *subWindow)
-    : Form(name, subWindow, newSurface(*subWindow)), m_frame(frame), m_subWindow(subWindow)
+    : Form(name, subWindow, newSurface(*subWindow)), m_frame(&frame), m_subWindow(subWindow)
 {
     subWindow->setProperty(ChildProperty, QVariant::fromValue(static_cast<QObject *>(this)));
     subWindow->setAttribute(Qt::WA_DeleteOnClose, false);
@@ -35,7 +35,10 @@ MDIChild::MDIChild(MDIForm &frame, const QString &name, QMdiSubWindow *subWindow
     subWindow->hide();
 }
 
-MDIChild::~MDIChild() = default;
+MDIChild::~MDIChild()
+{
+    if (m_frame) m_frame->forget(*this);
+}
 
 MDIChild *MDIChild::of(const QMdiSubWindow &subWindow)
 {
@@ -53,29 +56,37 @@ void MDIChild::Show(int mode)
 
 void MDIChild::setWindowState(int state)
 {
+    const bool restored = state == Normal && Visible() && WindowState() == Minimized;
+    // A restored child stays normal, also where the one before it was maximised.
+    m_frame->area().setOption(QMdiArea::DontMaximizeSubWindowOnActivation, restored);
     Form::setWindowState(state);
-    if (state == Maximized && Visible()) m_frame.childActivated(this);
+    if (restored) SetFocus();
+    m_frame->area().setOption(QMdiArea::DontMaximizeSubWindowOnActivation, false);
+    if (state == Maximized && Visible()) m_frame->childActivated(this);
 }
 
 void MDIChild::Hide()
 {
     const bool wasMaximized = Visible() && WindowState() == Maximized;
-    m_frame.m_choosing = true;
+    m_frame->m_choosing = true;
     Form::Hide();
-    m_frame.m_choosing = false;
-    m_frame.childLeft(*this, wasMaximized);
+    m_frame->m_choosing = false;
+    m_frame->childLeft(*this, wasMaximized);
 }
 
 void MDIChild::leave()
 {
     Hide();
-    m_frame.area().removeSubWindow(m_subWindow);
+    m_frame->area().removeSubWindow(m_subWindow);
 }
 
 void MDIChild::SetFocus()
 {
-    m_frame.area().setActiveSubWindow(m_subWindow);
-    m_frame.childActivated(this);
+    m_frame->area().setActiveSubWindow(m_subWindow);
+    // The frame gives the focus back to where it was when it becomes the active window again.
+    if (const QWidget *focused = m_frame->shell().focusWidget(); !focused || !m_subWindow->isAncestorOf(focused))
+        m_subWindow->setFocus();
+    m_frame->childActivated(this);
 }
 
 } // namespace orvane

@@ -1,14 +1,13 @@
 // A document window inside the frame.
 #pragma once
 
-#include "platform/forms/Form.h"
+#include "platform/forms/MDIForm.h"
 
 class QMdiSubWindow;
 
 namespace orvane
 {
 
-class MDIForm;
 
 class MDIChild : public Form
 {
@@ -36,7 +35,7 @@ private:
 
     MDIChild(MDIForm &frame, const QString &name, QMdiSubWindow *subWindow);
 
-    MDIForm &m_frame;
+    QPointer<MDIForm> m_frame;
     QMdiSubWindow *m_subWindow;
 };
 

@@ -48,13 +48,18 @@ void MDIForm::childActivated(MDIChild *child)
     if (m_active == child) child->activated();
 }
 
+void MDIForm::forget(MDIChild &child)
+{
+    std::erase(m_history, &child);
+    if (m_active == &child) m_active = nullptr;
+}
+
 // Hiding a maximised child would leave it active and nothing maximised, so the frame chooses the successor itself.
 void MDIForm::childLeft(MDIChild &child, bool wasMaximized)
 {
-    std::erase(m_history, &child);
-    if (m_active != &child) return;
-    m_active = nullptr;
-    if (m_history.empty()) return;
+    const bool wasActive = m_active == &child;
+    forget(child);
+    if (!wasActive || m_history.empty()) return;
     MDIChild *successor = m_history.back();
     m_area->setActiveSubWindow(&successor->subWindow());
     if (wasMaximized && successor->WindowState() == Normal) successor->setWindowState(Maximized);

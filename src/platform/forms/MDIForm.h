@@ -34,6 +34,7 @@ private:
 
     MDIForm(const QString &name, QMainWindow *window, QMdiArea *area);
     void childActivated(MDIChild *child);
+    void forget(MDIChild &child);
     void childLeft(MDIChild &child, bool wasMaximized);
 
     QMdiArea *m_area;

@@ -10,25 +10,43 @@ namespace orvane
 namespace
 {
 
-// The toolkit's time for a paragraph grows with the square of its runs; text behind this many takes the last one's
-// look.
-constexpr size_t MostRuns = 2000;
-// Its time for a list grows with the square of the items. A bullet looks the same in any list.
+// The toolkit's time for a stretch without a blank grows with the square of its length: behind so many characters a
+// line ends. No word of any language is as long.
+constexpr int LongestStretch = 4096;
+// Each look costs a font. Text behind so many takes the look of the text before.
+constexpr qsizetype MostLooks = 4096;
+// The time for a list grows with the square of the items. A bullet looks the same in any list.
 constexpr int MostListItems = 64;
+
+bool isBreak(QChar c)
+{
+    return c == u' ' || c == u'\t' || c == QChar::LineSeparator;
+}
 
 } // namespace
 
 void RtfBuilder::addText(QStringView text, const RtfCharacters &characters)
 {
-    beginRun(characters);
-    m_text.append(text);
+    if (m_runs.empty() || !(m_runs.back().characters == characters)) m_runs.push_back({m_text.size(), characters});
+    while (true) {
+        const qsizetype fitting = takeStretch(text);
+        m_text.append(text.left(fitting));
+        text = text.sliced(fitting);
+        if (text.isEmpty()) break;
+        m_text.append(QChar::LineSeparator);
+    }
     m_runs.back().end = m_text.size();
 }
 
-void RtfBuilder::beginRun(const RtfCharacters &characters)
+// How much of the text fits before a line has to end. Surrogates stay together.
+qsizetype RtfBuilder::takeStretch(QStringView text)
 {
-    const bool goesOn = !m_runs.empty() && (m_runs.back().characters == characters || m_runs.size() >= MostRuns);
-    if (!goesOn) m_runs.push_back({m_text.size(), characters});
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool fits = m_stretch < LongestStretch || (m_stretch == LongestStretch && text[i].isLowSurrogate());
+        m_stretch = isBreak(text[i]) || !fits ? 0 : m_stretch + 1;
+        if (!fits && !isBreak(text[i])) return i;
+    }
+    return text.size();
 }
 
 void RtfBuilder::endParagraph(const RtfParagraph &paragraph, const RtfCharacters &mark)
@@ -39,6 +57,7 @@ void RtfBuilder::endParagraph(const RtfParagraph &paragraph, const RtfCharacters
     insertRuns();
     m_text.clear();
     m_runs.clear();
+    m_stretch = 0;
     m_pageBreak = false;
     m_first = false;
 }
@@ -108,11 +127,14 @@ void RtfBuilder::joinList()
     }
 }
 
-const QTextCharFormat &RtfBuilder::charFormat(const RtfCharacters &characters)
+QTextCharFormat RtfBuilder::charFormat(const RtfCharacters &characters)
 {
     auto found = m_charFormats.constFind(characters);
-    if (found == m_charFormats.cend()) found = m_charFormats.insert(characters, toCharFormat(characters));
-    return *found;
+    if (found != m_charFormats.cend())
+        m_lastLook = *found;
+    else if (m_charFormats.size() < MostLooks)
+        m_lastLook = *m_charFormats.insert(characters, toCharFormat(characters));
+    return m_lastLook;
 }
 
 } // namespace orvane

@@ -33,19 +33,21 @@ private:
         RtfCharacters characters;
     };
 
-    void beginRun(const RtfCharacters &characters);
+    qsizetype takeStretch(QStringView text);
     void applyDefaultTab();
     void insertBlock(const QTextBlockFormat &format, const QTextCharFormat &mark);
     void insertRuns();
     QTextBlockFormat blockFormat(const RtfParagraph &paragraph);
     void joinList();
-    const QTextCharFormat &charFormat(const RtfCharacters &characters);
+    QTextCharFormat charFormat(const RtfCharacters &characters);
 
     QTextCursor m_cursor;
     int m_defaultTab = DefaultTabTwips;
     QString m_text;
     std::vector<Run> m_runs;
+    int m_stretch = 0; // characters since the last blank
     QHash<RtfCharacters, QTextCharFormat> m_charFormats;
+    QTextCharFormat m_lastLook;
     RtfParagraph m_lastParagraph;
     QTextBlockFormat m_lastFormat;
     QTextList *m_list = nullptr;

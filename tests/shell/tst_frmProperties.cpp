@@ -1,0 +1,322 @@
+// The user's name and company: where they come from and where they go.
+#include "platform/system/SettingsStore.h"
+#include "printing/frmPrint.h"
+#include "shell/RegistryHost.h"
+#include "shell/frmProperties.h"
+#include "shell/modFunctions.h"
+#include "support/RunningSystem.h"
+
+#include <QLineEdit>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace orvane;
+
+namespace
+{
+const QString UserInfo = QStringLiteral(R"(.Default\Software\Microsoft\MS Setup (ACME)\User Info)");
+const QString Fallback = QStringLiteral("Not recorded on this machine");
+const QChar Nul(u'\0');
+
+QString stored(const QString &key)
+{
+    return GetSetting(u"orvane Quillmark CD"_s, u"UserDetails"_s, key, u"(not stored)"_s);
+}
+
+void store(const QString &name, const QString &company)
+{
+    SaveSetting(u"orvane Quillmark CD"_s, u"UserDetails"_s, u"Name"_s, name);
+    SaveSetting(u"orvane Quillmark CD"_s, u"UserDetails"_s, u"Company"_s, company);
+}
+
+frmProperties &dialog()
+{
+    return Default<frmProperties>();
+}
+
+bool isLoaded()
+{
+    return test::countWindows(u"frmProperties"_s) == 1;
+}
+
+void type(const TextBox &box, const QString &text)
+{
+    static_cast<QLineEdit &>(box.widget()).clear();
+    QTest::keyClicks(&box.widget(), text);
+}
+
+void show()
+{
+    dialog().Show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog().shell()));
+}
+} // namespace
+
+class tst_frmProperties : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void storedDetailsAreShown();
+    void withoutStoredDetailsTheMachinesRecordIsOffered();
+    void withoutARecordTheFallbackIsOffered();
+    void aRecordWithoutValuesOffersNothing();
+    void aRecordOfFullLengthLosesAFinalNulAlone_data();
+    void aRecordOfFullLengthLosesAFinalNulAlone();
+    void theRecordIsReadAlthoughDetailsAreStored();
+    void anEmptyStoredNameIsEmpty();
+    void okStoresTheTextsAsTheyStand_data();
+    void okStoresTheTextsAsTheyStand();
+    void okTellsTheOtherWindows();
+    void okUnloadsTheDialog();
+    void okBringsUpAPreviewOfTheGuide();
+    void okBringsUpNoPreviewOfTheDiagram();
+    void withoutAnActiveWindowOkFailsAfterItHasSaved();
+    void theNextOpeningShowsWhatWasSaved();
+    void cancelHidesTheDialogAndStoresNothing();
+    void cancelShowsTheStoredDetailsAgain();
+    void cancelReadsTheRecordAgain();
+    void closingUnloadsTheDialogAndStoresNothing();
+    void theUserCanGoOnInOtherWindows();
+    void aSavedNameDoesNotReachTheSplash();
+
+private:
+    void setRecord(const QString &name, const QString &company);
+
+    std::optional<test::RunningSystem> m_system;
+    std::optional<test::RegistryHost> m_registry;
+};
+
+void tst_frmProperties::init()
+{
+    m_system.emplace();
+    m_registry.emplace();
+}
+
+void tst_frmProperties::cleanup()
+{
+    m_registry.reset();
+    m_system.reset();
+}
+
+void tst_frmProperties::setRecord(const QString &name, const QString &company)
+{
+    RegistryKey key;
+    key.set(u"DefName"_s, {RegistryString, name});
+    key.set(u"DefCompany"_s, {RegistryString, company});
+    m_registry->setKey(HKEY_USERS, UserInfo, key);
+}
+
+void tst_frmProperties::storedDetailsAreShown()
+{
+    store(u"Ada, Lindqvist"_s, u" Global Inc "_s);
+    QCOMPARE(dialog().txtUserName.Text(), u"Ada, Lindqvist"_s);
+    QCOMPARE(dialog().txtUserCompany.Text(), u" Global Inc "_s);
+}
+
+void tst_frmProperties::withoutStoredDetailsTheMachinesRecordIsOffered()
+{
+    setRecord(u"Ada Lindqvist"_s + Nul, u"Global Inc"_s + Nul);
+    QCOMPARE(dialog().txtUserName.Text(), u"Ada Lindqvist"_s);
+    QCOMPARE(dialog().txtUserCompany.Text(), u"Global Inc"_s);
+}
+
+void tst_frmProperties::withoutARecordTheFallbackIsOffered()
+{
+    QCOMPARE(dialog().txtUserName.Text(), Fallback);
+    QCOMPARE(dialog().txtUserCompany.Text(), Fallback);
+}
+
+void tst_frmProperties::aRecordWithoutValuesOffersNothing()
+{
+    m_registry->setKey(HKEY_USERS, UserInfo, RegistryKey());
+    QCOMPARE(dialog().txtUserName.Text(), u""_s);
+    QCOMPARE(dialog().txtUserCompany.Text(), u""_s);
+}
+
+void tst_frmProperties::aRecordOfFullLengthLosesAFinalNulAlone_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<qsizetype>("length");
+    QTest::newRow("255 with NUL") << QString(254, u'x') + Nul << qsizetype(254);
+    QTest::newRow("255 without NUL") << QString(255, u'x') << qsizetype(255);
+    QTest::newRow("256") << QString(255, u'x') + Nul << qsizetype(0);
+}
+
+void tst_frmProperties::aRecordOfFullLengthLosesAFinalNulAlone()
+{
+    QFETCH(QString, value);
+    setRecord(value, u"Global Inc"_s);
+    QTEST(dialog().txtUserName.Text().size(), "length");
+}
+
+void tst_frmProperties::theRecordIsReadAlthoughDetailsAreStored()
+{
+    store(u"Ada"_s, u"Global Inc"_s);
+    dialog();
+    QCOMPARE(m_registry->timesOpened(), 2);
+}
+
+void tst_frmProperties::anEmptyStoredNameIsEmpty()
+{
+    setRecord(u"Ada"_s, u"Global Inc"_s);
+    store(u""_s, u""_s);
+    QCOMPARE(dialog().txtUserName.Text(), u""_s);
+    QCOMPARE(dialog().txtUserCompany.Text(), u""_s);
+}
+
+void tst_frmProperties::okStoresTheTextsAsTheyStand_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("company");
+    QTest::newRow("plain") << u"Ada Lindqvist"_s << u"Global Inc"_s;
+    QTest::newRow("blanks") << u"  Ada "_s << u" "_s;
+    QTest::newRow("empty") << u""_s << u""_s;
+    QTest::newRow("signs") << u"a=b;c,d %20 \"e\""_s << u"[x]\\n"_s;
+}
+
+void tst_frmProperties::okStoresTheTextsAsTheyStand()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, company);
+    m_system->start();
+    show();
+    type(dialog().txtUserName, name);
+    type(dialog().txtUserCompany, company);
+    m_system->click(dialog().cmdOK);
+    QCOMPARE(stored(u"Name"_s), name);
+    QCOMPARE(stored(u"Company"_s), company);
+}
+
+void tst_frmProperties::okTellsTheOtherWindows()
+{
+    m_system->start();
+    show();
+    QVERIFY(Shared().UserDetailsSaved == False);
+    m_system->click(dialog().cmdOK);
+    QVERIFY(Shared().UserDetailsSaved == True);
+}
+
+void tst_frmProperties::okUnloadsTheDialog()
+{
+    m_system->start();
+    show();
+    m_system->click(dialog().cmdOK);
+    QVERIFY(!isLoaded());
+}
+
+void tst_frmProperties::okBringsUpAPreviewOfTheGuide()
+{
+    m_system->start();
+    OpenGuide(u"STEP 17"_s, u"127"_s);
+    QTRY_COMPARE(m_system->active()->Name(), u"frmIGSteps"_s);
+    show();
+    m_system->click(dialog().cmdOK);
+    QTRY_COMPARE(m_system->active()->Name(), u"frmPrint"_s);
+    QVERIFY(Default<frmPrint>().Visible());
+    QVERIFY(!isLoaded());
+}
+
+void tst_frmProperties::okBringsUpNoPreviewOfTheDiagram()
+{
+    m_system->start();
+    QTRY_COMPARE(m_system->active()->Name(), u"frmCommandCentre"_s);
+    show();
+    const QString step = m_system->console().Tag();
+    m_system->click(dialog().cmdOK);
+    QCOMPARE(test::countWindows(u"frmPrint"_s), 0);
+    QCOMPARE(m_system->console().Tag(), step);
+}
+
+// The tour's driver takes an active window for granted.
+void tst_frmProperties::withoutAnActiveWindowOkFailsAfterItHasSaved()
+{
+    show();
+    type(dialog().txtUserName, u"Ada"_s);
+    m_system->host.expectAnyMessage();
+    m_system->host.expectEnd(1);
+    m_system->click(dialog().cmdOK);
+    QVERIFY(m_system->host.messages().back().text.contains(u"91"));
+    QCOMPARE(stored(u"Name"_s), u"Ada"_s);
+    QVERIFY(Shared().UserDetailsSaved == True);
+    QVERIFY(isLoaded());
+}
+
+void tst_frmProperties::theNextOpeningShowsWhatWasSaved()
+{
+    m_system->start();
+    show();
+    type(dialog().txtUserName, u"Ada"_s);
+    type(dialog().txtUserCompany, u""_s);
+    m_system->click(dialog().cmdOK);
+    QCOMPARE(dialog().txtUserName.Text(), u"Ada"_s);
+    QCOMPARE(dialog().txtUserCompany.Text(), u""_s);
+}
+
+void tst_frmProperties::cancelHidesTheDialogAndStoresNothing()
+{
+    show();
+    const frmProperties *shown = &dialog();
+    type(dialog().txtUserName, u"Ada"_s);
+    m_system->click(dialog().cmdCancel);
+    QVERIFY(isLoaded());
+    QVERIFY(!dialog().Visible());
+    QCOMPARE(&dialog(), shown);
+    QCOMPARE(stored(u"Name"_s), u"(not stored)"_s);
+    QVERIFY(Shared().UserDetailsSaved == False);
+}
+
+void tst_frmProperties::cancelShowsTheStoredDetailsAgain()
+{
+    store(u"Ada"_s, u"Global Inc"_s);
+    show();
+    type(dialog().txtUserName, u"Jo"_s);
+    type(dialog().txtUserCompany, u"Other"_s);
+    m_system->click(dialog().cmdCancel);
+    show();
+    QCOMPARE(dialog().txtUserName.Text(), u"Ada"_s);
+    QCOMPARE(dialog().txtUserCompany.Text(), u"Global Inc"_s);
+}
+
+void tst_frmProperties::cancelReadsTheRecordAgain()
+{
+    show();
+    setRecord(u"Ada"_s, u"Global Inc"_s);
+    m_system->click(dialog().cmdCancel);
+    QCOMPARE(dialog().txtUserName.Text(), u"Ada"_s);
+    QCOMPARE(dialog().txtUserCompany.Text(), u"Global Inc"_s);
+}
+
+void tst_frmProperties::closingUnloadsTheDialogAndStoresNothing()
+{
+    show();
+    type(dialog().txtUserName, u"Ada"_s);
+    dialog().shell().close();
+    QVERIFY(!isLoaded());
+    QCOMPARE(stored(u"Name"_s), u"(not stored)"_s);
+}
+
+void tst_frmProperties::theUserCanGoOnInOtherWindows()
+{
+    m_system->start();
+    show();
+    m_system->click(m_system->diagram().SSRibbon1(3));
+    QVERIFY(m_system->diagram().pnlDiag(3).Visible());
+    QVERIFY(dialog().Visible());
+}
+
+void tst_frmProperties::aSavedNameDoesNotReachTheSplash()
+{
+    m_system->start();
+    show();
+    type(dialog().txtUserName, u"Ada"_s);
+    type(dialog().txtUserCompany, u"Global Inc"_s);
+    m_system->click(dialog().cmdOK);
+    QCOMPARE(Default<frmSplash>().lblUserName.Caption(), u"None"_s);
+    QCOMPARE(Default<frmSplash>().lblUserCompany.Caption(), u"Global Inc"_s);
+}
+
+QTEST_MAIN(tst_frmProperties)
+#include "tst_frmProperties.moc"
