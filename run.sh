@@ -18,8 +18,7 @@ open_program() {
 walk() {
     echo "There is no display here, so the tour walks by itself on a virtual one."
     start_virtual_display
-    "$programs/tourwalk" --out out
-    echo "A picture of each step is in $PWD/out"
+    "$programs/tourwalk" --out "$PWD/out" # ends by telling how many pictures are there
 }
 
 main() {

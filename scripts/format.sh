@@ -1,10 +1,18 @@
 #!/usr/bin/env bash
-# Formats every source file of the tree; with --check only tells which ones are not.
+# Formats every source file of the tree; with --check only names those that need it.
 set -euo pipefail
 CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")/.."
 
-action=(-i)
-[[ ${1:-} != --check ]] || action=(--dry-run -Werror)
+sources() {
+    find . \( -path ./build -o -path ./out -o -path ./.git \) -prune -o -type f \( -name '*.cpp' -o -name '*.h' \) -print0
+}
 
-find . \( -path ./build -o -path ./out -o -path ./.git \) -prune -o -type f \( -name '*.cpp' -o -name '*.h' \) -print0 |
-    xargs -0 clang-format-14 "${action[@]}"
+check() {
+    local complaints
+    complaints=$(sources | xargs -0 clang-format-14 --dry-run -Werror 2>&1) && return
+    echo "Run scripts/format.sh over these:" >&2
+    cut -d : -f 1 <<<"$complaints" | grep -E '\.(cpp|h)$' | sort -u >&2
+    return 1
+}
+
+if [[ ${1:-} == --check ]]; then check; else sources | xargs -0 clang-format-14 -i; fi

@@ -6,7 +6,6 @@
 #include "shell/frmSplash.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QMetaObject>
 
 int main(int argc, char *argv[])
@@ -14,7 +13,6 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("orvane"));
     QApplication::setQuitOnLastWindowClosed(false); // the console's Quit ends the program
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/mark.svg")));
     orvane::applyLooks(application);
     QMetaObject::invokeMethod(
         &application, [] { orvane::guarded([] { orvane::Default<orvane::frmSplash>().Show(); }); },

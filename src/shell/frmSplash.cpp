@@ -44,20 +44,20 @@ frmSplash::frmSplash()
 
 void frmSplash::placeControls()
 {
-    setFixedDesignSize(7500, 5400);
-    gradient.Move(0, 0, 7500, 5400);
+    setFixedDesignSize(7500, 4950);
+    gradient.Move(0, 0, 7500, 4950);
     Picture1.Move(300, 240, 6900, 1800);
-    Frame1.Move(300, 2160, 6900, 3090);
-    imgTitle.Move(0, 0, 1650, 480);
-    lblCompanyProduct.Move(1800, 60, 1500, 420);
-    Label1.Move(3300, 60, 1200, 420);
-    imgLogo.Move(5400, 30, 1500, 420);
-    lblVersion.Move(0, 660, 1800, 270);
-    lblPlatform.Move(1800, 660, 1800, 270);
-    lblUserName.Move(0, 1080, 6900, 270);
-    lblUserCompany.Move(0, 1380, 6900, 270);
-    lblCopyright.Move(0, 1860, 6900, 480);
-    lblWarning.Move(0, 2400, 6900, 660);
+    Frame1.Move(300, 2220, 6900, 2580);
+    imgTitle.Move(0, 0, 1950, 570);
+    Label1.Move(2160, 150, 1500, 420);
+    lblUserName.Move(3900, 60, 3000, 270);
+    lblUserCompany.Move(3900, 330, 3000, 270);
+    lblCompanyProduct.Move(0, 840, 1000, 270);
+    lblVersion.Move(1050, 840, 1300, 270);
+    lblPlatform.Move(2400, 840, 1500, 270);
+    lblCopyright.Move(0, 1320, 6900, 300);
+    lblWarning.Move(0, 1680, 5250, 900);
+    imgLogo.Move(6300, 1980, 600, 600);
 }
 
 void frmSplash::dressLabels()
@@ -66,10 +66,10 @@ void frmSplash::dressLabels()
     Picture1.setPurpose(QStringLiteral("orvane, a toolkit for environmental management"));
     imgTitle.setPicture(QStringLiteral("imgTitle"));
     imgTitle.setPurpose(QStringLiteral("orvane"));
-    imgLogo.setPicture(QStringLiteral("logo"));
+    imgLogo.setPicture(QStringLiteral("mark"));
     imgLogo.setPurpose(QStringLiteral("orvane"));
     lblCompanyProduct.setCaption(QStringLiteral("orvane"));
-    lblCompanyProduct.setFont(QStringLiteral("Arial"), 15, true);
+    lblCompanyProduct.setFont(QStringLiteral("Arial"), 9.75, true);
     Label1.setCaption(QStringLiteral("DEMO"));
     Label1.setFont(QStringLiteral("Arial"), 15, true);
     Label1.setForeColor(fromColour(palette::RedDot));

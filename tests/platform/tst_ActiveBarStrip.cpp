@@ -23,11 +23,16 @@ QRect placeOnScreen(const QWidget &widget)
     return QRect(widget.mapToGlobal(QPoint(0, 0)), widget.size());
 }
 
+QColor colourAt(QWidget &widget, const QPoint &point)
+{
+    const QImage shown = widget.grab().toImage();
+    return shown.pixelColor(point * shown.devicePixelRatio());
+}
+
 // What a button shows near its left edge, beside picture and caption.
 QColor groundOf(const QWidget &button)
 {
-    const QImage strip = button.parentWidget()->grab().toImage();
-    return strip.pixelColor(button.x() + 3, button.geometry().center().y());
+    return colourAt(*button.parentWidget(), QPoint(button.x() + 3, button.geometry().center().y()));
 }
 
 // The bar at so many pixels of width.
@@ -63,6 +68,7 @@ private slots:
     void ofTwoEqualAccessKeysTheFirstCounts();
     void theMenuOfTheFrameKeepsItsAccessKeys();
     void tabReachesEveryButton();
+    void aWindowOpensWithTheFocusBehindItsBars();
     void arrowsMoveFromButtonToButton();
     void spaceAndEnterPress_data();
     void spaceAndEnterPress();
@@ -135,8 +141,8 @@ void tst_ActiveBarStrip::groupsStandApartButForTheFirst()
     const int betweenTools = left(u"Save"_s) - right(u"Mode"_s);
     const int betweenGroups = left(u"Mode"_s) - right(u"Related"_s);
     QVERIFY(betweenGroups > betweenTools + 4);
-    const QImage strip = window.bar->widget().grab().toImage();
-    QCOMPARE(strip.pixelColor(right(u"Related"_s) + betweenGroups / 2, strip.height() / 2), palette::Line);
+    const QPoint between(right(u"Related"_s) + betweenGroups / 2, window.bar->widget().height() / 2);
+    QCOMPARE(colourAt(window.bar->widget(), between), palette::Line);
 }
 
 void tst_ActiveBarStrip::outerBlanksWidenAButtonALittle()
@@ -287,6 +293,16 @@ void tst_ActiveBarStrip::tabReachesEveryButton()
     QCOMPARE(reached, (QStringList{u"Related"_s, u"Mode"_s, u"Pairs"_s, u"Close"_s, QString()}));
 }
 
+void tst_ActiveBarStrip::aWindowOpensWithTheFocusBehindItsBars()
+{
+    BarFrame frame;
+    BarChild child(frame);
+    frame.Show();
+    child.Show();
+    QVERIFY(QTest::qWaitForWindowActive(&frame.shell()));
+    QTRY_VERIFY(child.edit->hasFocus());
+}
+
 void tst_ActiveBarStrip::arrowsMoveFromButtonToButton()
 {
     BarWindow window;
@@ -325,11 +341,10 @@ void tst_ActiveBarStrip::theFocusCanBeSeen()
     BarWindow window;
     window.open();
     QToolButton *mode = window.button(u"Mode"_s);
-    const QImage before = mode->grab().toImage();
+    const QPoint rim(mode->width() / 2, 1);
+    QVERIFY(colourAt(*mode, rim) != palette::Teal);
     mode->setFocus();
-    const QImage after = mode->grab().toImage();
-    QVERIFY(before != after);
-    QCOMPARE(after.pixelColor(mode->width() / 2, 1), palette::Teal);
+    QCOMPARE(colourAt(*mode, rim), palette::Teal);
 }
 
 void tst_ActiveBarStrip::aFlyoutOpensBelowItsButton()

@@ -12,8 +12,16 @@ using namespace orvane;
 
 namespace
 {
-const QString UserInfo = QStringLiteral(R"(.Default\Software\Microsoft\MS Setup (ACME)\User Info)");
-const QString SystemInformation = QStringLiteral(R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)");
+QString userInfo()
+{
+    return QStringLiteral(R"(.Default\Software\Microsoft\MS Setup (ACME)\User Info)");
+}
+
+QString systemInformation()
+{
+    return QStringLiteral(R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)");
+}
+
 constexpr qsizetype Room = 255;
 
 constexpr char Accounts[] = "root:x:0:0:root:/root:/bin/bash\n"
@@ -129,7 +137,7 @@ void tst_RegistryStandIn::theUserInfoBearsTheFullNameOfTheAccount()
 {
     const std::optional<QString> name = accountFullName(u"/etc/passwd"_s, getuid());
     if (!name) QSKIP("The user who runs this has no local account.");
-    const std::optional<RegistryKey> key = openMachineKey(HKEY_USERS, UserInfo);
+    const std::optional<RegistryKey> key = openMachineKey(HKEY_USERS, userInfo());
     QVERIFY(key);
     const std::optional<RegistryValue> value = key->query(u"DefName"_s, Room);
     QVERIFY(value);
@@ -140,7 +148,7 @@ void tst_RegistryStandIn::theUserInfoBearsTheFullNameOfTheAccount()
 void tst_RegistryStandIn::namesCompareWithoutCase()
 {
     addTool(u"hardinfo"_s);
-    const std::optional<RegistryKey> key = openMachineKey(HKEY_LOCAL_MACHINE, SystemInformation.toLower());
+    const std::optional<RegistryKey> key = openMachineKey(HKEY_LOCAL_MACHINE, systemInformation().toLower());
     QVERIFY(key);
     QVERIFY(key->query(u"Path"_s, Room));
     QVERIFY(!key->query(u"Paths"_s, Room));
@@ -148,7 +156,7 @@ void tst_RegistryStandIn::namesCompareWithoutCase()
 
 void tst_RegistryStandIn::noOrganizationIsKnown()
 {
-    const std::optional<RegistryKey> key = openMachineKey(HKEY_USERS, UserInfo);
+    const std::optional<RegistryKey> key = openMachineKey(HKEY_USERS, userInfo());
     if (!key) QSKIP("The user who runs this has no local account.");
     QVERIFY(!key->query(u"DefCompany"_s, Room));
 }
@@ -157,11 +165,11 @@ void tst_RegistryStandIn::otherKeysCantBeOpened_data()
 {
     QTest::addColumn<quint32>("rootKey");
     QTest::addColumn<QString>("subKey");
-    QTest::newRow("another root") << HKEY_LOCAL_MACHINE << UserInfo;
-    QTest::newRow("the tool under the users") << HKEY_USERS << SystemInformation;
+    QTest::newRow("another root") << HKEY_LOCAL_MACHINE << userInfo();
+    QTest::newRow("the tool under the users") << HKEY_USERS << systemInformation();
     QTest::newRow("the tool's other place")
         << HKEY_LOCAL_MACHINE << QStringLiteral(R"(SOFTWARE\Microsoft\Shared Tools Location)");
-    QTest::newRow("a longer name") << HKEY_USERS << UserInfo + u"\\More"_s;
+    QTest::newRow("a longer name") << HKEY_USERS << userInfo() + u"\\More"_s;
     QTest::newRow("no name") << HKEY_USERS << QString();
 }
 
@@ -193,7 +201,7 @@ void tst_RegistryStandIn::theSystemInformationToolIsFoundInTheFoldersOfPrograms(
 {
     QFETCH(QString, tool);
     addTool(tool);
-    const std::optional<RegistryKey> key = openMachineKey(HKEY_LOCAL_MACHINE, SystemInformation);
+    const std::optional<RegistryKey> key = openMachineKey(HKEY_LOCAL_MACHINE, systemInformation());
     QVERIFY(key);
     const std::optional<RegistryValue> path = key->query(u"PATH"_s, Room);
     QVERIFY(path);
@@ -204,22 +212,22 @@ void tst_RegistryStandIn::theFirstOfSeveralToolsIsTaken()
 {
     addTool(u"gnome-system-monitor"_s);
     addTool(u"hardinfo"_s);
-    const std::optional<RegistryKey> key = openMachineKey(HKEY_LOCAL_MACHINE, SystemInformation);
+    const std::optional<RegistryKey> key = openMachineKey(HKEY_LOCAL_MACHINE, systemInformation());
     QVERIFY(key);
     QCOMPARE(key->query(u"PATH"_s, Room)->data, inFolder(u"hardinfo"_s) + QChar(u'\0'));
 }
 
 void tst_RegistryStandIn::withoutAToolThereIsNoKey()
 {
-    QVERIFY(!openMachineKey(HKEY_LOCAL_MACHINE, SystemInformation));
+    QVERIFY(!openMachineKey(HKEY_LOCAL_MACHINE, systemInformation()));
     qunsetenv("PATH");
-    QVERIFY(!openMachineKey(HKEY_LOCAL_MACHINE, SystemInformation));
+    QVERIFY(!openMachineKey(HKEY_LOCAL_MACHINE, systemInformation()));
 }
 
 void tst_RegistryStandIn::aToolThatCantRunIsNone()
 {
     write(u"hardinfo"_s, "#!/bin/sh\n", QFile::ReadOwner);
-    QVERIFY(!openMachineKey(HKEY_LOCAL_MACHINE, SystemInformation));
+    QVERIFY(!openMachineKey(HKEY_LOCAL_MACHINE, systemInformation()));
 }
 
 void tst_RegistryStandIn::aRelativeFolderOfProgramsDoesNotCount()
@@ -227,7 +235,7 @@ void tst_RegistryStandIn::aRelativeFolderOfProgramsDoesNotCount()
     addTool(u"hardinfo"_s);
     QVERIFY(QDir::setCurrent(m_folder.path()));
     qputenv("PATH", ".:");
-    QVERIFY(!openMachineKey(HKEY_LOCAL_MACHINE, SystemInformation));
+    QVERIFY(!openMachineKey(HKEY_LOCAL_MACHINE, systemInformation()));
 }
 
 QTEST_GUILESS_MAIN(tst_RegistryStandIn)

@@ -15,9 +15,10 @@ inline bool textFits(const Control &control)
 {
     if (const auto *label = qobject_cast<QLabel *>(&control.widget()))
         return label->heightForWidth(label->width()) <= label->height();
-    if (const auto *button = qobject_cast<QPushButton *>(&control.widget()))
-        return button->minimumSizeHint().width() <= button->width() &&
-               button->fontMetrics().height() <= button->height() - 6;
+    if (const auto *button = qobject_cast<QPushButton *>(&control.widget())) {
+        const QSize text = button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
+        return text.width() <= button->width() - 12 && text.height() <= button->height() - 6;
+    }
     return true;
 }
 

@@ -9,7 +9,11 @@ using namespace orvane;
 
 namespace
 {
-const QString SubKey = QStringLiteral(R"(Software\Orvane)");
+QString subKey()
+{
+    return QStringLiteral(R"(Software\Orvane)");
+}
+
 const QChar Nul(u'\0');
 } // namespace
 
@@ -39,14 +43,14 @@ void tst_ReadRegistryString::store(const QString &data)
 {
     RegistryKey key;
     key.set(u"DefName"_s, {RegistryString, data});
-    m_host->setKey(HKEY_USERS, SubKey, key);
+    m_host->setKey(HKEY_USERS, subKey(), key);
 }
 
 void tst_ReadRegistryString::aKeyThatCantBeOpenedGivesASentence_data()
 {
     QTest::addColumn<quint32>("rootKey");
     QTest::addColumn<QString>("subKey");
-    QTest::newRow("another root") << HKEY_LOCAL_MACHINE << SubKey;
+    QTest::newRow("another root") << HKEY_LOCAL_MACHINE << subKey();
     QTest::newRow("another key") << HKEY_USERS << u"Software"_s;
 }
 
@@ -61,7 +65,7 @@ void tst_ReadRegistryString::aKeyThatCantBeOpenedGivesASentence()
 void tst_ReadRegistryString::aMissingValueIsEmpty()
 {
     store(u"Ada"_s);
-    QCOMPARE(ReadRegistryString(SubKey, HKEY_USERS, u"DefCompany"_s), u""_s);
+    QCOMPARE(ReadRegistryString(subKey(), HKEY_USERS, u"DefCompany"_s), u""_s);
 }
 
 void tst_ReadRegistryString::aValueLosesItsFinalNulAlone_data()
@@ -82,13 +86,13 @@ void tst_ReadRegistryString::aValueLosesItsFinalNulAlone()
 {
     QFETCH(QString, data);
     store(data);
-    QTEST(ReadRegistryString(SubKey, HKEY_USERS, u"DefName"_s), "text");
+    QTEST(ReadRegistryString(subKey(), HKEY_USERS, u"DefName"_s), "text");
 }
 
 void tst_ReadRegistryString::aValueLongerThanTheBufferIsEmpty()
 {
     store(QString(255, u'x') + Nul);
-    QCOMPARE(ReadRegistryString(SubKey, HKEY_USERS, u"DefName"_s), u""_s);
+    QCOMPARE(ReadRegistryString(subKey(), HKEY_USERS, u"DefName"_s), u""_s);
 }
 
 void tst_ReadRegistryString::trimmingTakesTheFirstCharacters_data()

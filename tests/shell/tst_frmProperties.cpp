@@ -14,8 +14,16 @@ using namespace orvane;
 
 namespace
 {
-const QString UserInfo = QStringLiteral(R"(.Default\Software\Microsoft\MS Setup (ACME)\User Info)");
-const QString Fallback = QStringLiteral("Not recorded on this machine");
+QString userInfo()
+{
+    return QStringLiteral(R"(.Default\Software\Microsoft\MS Setup (ACME)\User Info)");
+}
+
+QString fallback()
+{
+    return QStringLiteral("Not recorded on this machine");
+}
+
 const QChar Nul(u'\0');
 
 QString stored(const QString &key)
@@ -106,7 +114,7 @@ void tst_frmProperties::setRecord(const QString &name, const QString &company)
     RegistryKey key;
     key.set(u"DefName"_s, {RegistryString, name});
     key.set(u"DefCompany"_s, {RegistryString, company});
-    m_registry->setKey(HKEY_USERS, UserInfo, key);
+    m_registry->setKey(HKEY_USERS, userInfo(), key);
 }
 
 void tst_frmProperties::storedDetailsAreShown()
@@ -125,13 +133,13 @@ void tst_frmProperties::withoutStoredDetailsTheMachinesRecordIsOffered()
 
 void tst_frmProperties::withoutARecordTheFallbackIsOffered()
 {
-    QCOMPARE(dialog().txtUserName.Text(), Fallback);
-    QCOMPARE(dialog().txtUserCompany.Text(), Fallback);
+    QCOMPARE(dialog().txtUserName.Text(), fallback());
+    QCOMPARE(dialog().txtUserCompany.Text(), fallback());
 }
 
 void tst_frmProperties::aRecordWithoutValuesOffersNothing()
 {
-    m_registry->setKey(HKEY_USERS, UserInfo, RegistryKey());
+    m_registry->setKey(HKEY_USERS, userInfo(), RegistryKey());
     QCOMPARE(dialog().txtUserName.Text(), u""_s);
     QCOMPARE(dialog().txtUserCompany.Text(), u""_s);
 }

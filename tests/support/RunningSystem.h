@@ -26,9 +26,9 @@ public:
     // A section for each tag: heading "Step TAG", body "Text of TAG", and no moves.
     void writeScript(const QStringList &tags) const;
 
-    void showSplash();  // up to the intro on screen
-    void leaveIntro();  // by Enter
-    void start();       // both: frame, diagram and console are up on step 101
+    void showSplash(); // up to the intro on screen
+    void leaveIntro(); // by Enter
+    void start();      // both: frame, diagram and console are up on step 101
 
     mdiMain &frame() const { return Default<mdiMain>(); }
     frmCommandCentre &diagram() const { return Default<frmCommandCentre>(); }

@@ -9,10 +9,7 @@
 namespace orvane
 {
 
-namespace
-{
-// The document window that holds the view, or else the window itself: within it, access keys meet.
-const QWidget &scopeOf(const QWidget &view)
+const QWidget &innerWindowOf(const QWidget &view)
 {
     const QWidget *scope = &view;
     while (!scope->isWindow() && scope->windowType() != Qt::SubWindow && scope->parentWidget())
@@ -20,6 +17,8 @@ const QWidget &scopeOf(const QWidget &view)
     return *scope;
 }
 
+namespace
+{
 bool menuHas(const QKeySequence &key, const QWidget &window)
 {
     const auto *frame = qobject_cast<const QMainWindow *>(&window);
@@ -33,9 +32,9 @@ bool menuHas(const QKeySequence &key, const QWidget &window)
 bool accessKeyIsFree(const QKeySequence &key, const QWidget &view)
 {
     if (menuHas(key, *view.window())) return false;
-    return std::ranges::none_of(scopeOf(view).findChildren<QAbstractButton *>(), [&](const QAbstractButton *button) {
-        return button->shortcut() == key && !view.isAncestorOf(button);
-    });
+    return std::ranges::none_of(
+        innerWindowOf(view).findChildren<QAbstractButton *>(),
+        [&](const QAbstractButton *button) { return button->shortcut() == key && !view.isAncestorOf(button); });
 }
 
 } // namespace orvane

@@ -1,8 +1,10 @@
 #include "platform/controls/BarLooks.h"
 
+#include "platform/controls/Palette.h"
 #include "platform/controls/Tool.h"
 
 #include <QFile>
+#include <QWidget>
 
 // Outside any namespace, as the pictures' own code is; a static library drops them unless they are asked for.
 static void bringPicturesIn()
@@ -22,6 +24,15 @@ constexpr QChar Mark = u'&';
 QFont barFont()
 {
     return QFont(QStringLiteral("Arial"), PointSize);
+}
+
+void applyMenuLooks(QWidget &menu)
+{
+    menu.setFont(barFont());
+    QPalette looks = applicationPalette();
+    looks.setColor(QPalette::Highlight, palette::PressedMist);
+    looks.setColor(QPalette::HighlightedText, palette::Ink);
+    menu.setPalette(looks);
 }
 
 QIcon toolIcon(const Tool &tool)

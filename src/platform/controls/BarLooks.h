@@ -5,12 +5,15 @@
 #include <QIcon>
 #include <QString>
 
+class QWidget;
+
 namespace orvane
 {
 
 class Tool;
 
 QFont barFont();
+void applyMenuLooks(QWidget &menu); // of a menu or menu bar: the bars' font, and a highlight on which pictures are seen
 QIcon toolIcon(const Tool &tool); // null where the tool has no picture
 
 // The caption as a button or menu draws it: "&" marks the access key, "&&" stands for one "&", no outer blanks.

@@ -15,7 +15,7 @@ BarMenu::BarMenu(ActiveBar &bar, const ToolSource &source, QWidget *parent)
 {
     setObjectName(source.name);
     setAccessibleName(source.title);
-    setFont(barFont());
+    applyMenuLooks(*this);
     connect(this, &QMenu::aboutToShow, &m_entries, &BandActions::follow);
     connect(this, &QMenu::aboutToHide, this, &BarMenu::tellHighlight);
     connect(this, &QMenu::triggered, this, &BarMenu::note);

@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QShowEvent>
 #include <algorithm>
 
 namespace orvane
@@ -27,6 +28,7 @@ constexpr int MostHeight = 26;
 void BarStrip::showBar(ActiveBar &bar)
 {
     m_bar = &bar;
+    setAccessibleName(bar.Bands(0).Caption());
     m_more = new ToolButton(this);
     m_more->setObjectName(QStringLiteral("more"));
     m_more->setText(QStringLiteral(">>"));
@@ -226,7 +228,24 @@ void BarStrip::resizeEvent(QResizeEvent *event)
 void BarStrip::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    if (m_bar) follow();
+    if (!m_bar) return;
+    if (!event->spontaneous()) comeLast();
+    follow();
+}
+
+// Tab reaches a bar after what the window is for, and a window that opens doesn't give it the focus.
+void BarStrip::comeLast()
+{
+    const QWidget &scope = innerWindowOf(*this);
+    QWidget *last = nullptr;
+    for (QWidget *next = scope.nextInFocusChain(); next != &scope; next = next->nextInFocusChain())
+        if (scope.isAncestorOf(next) && !isAncestorOf(next) && next->focusPolicy() & Qt::TabFocus) last = next;
+    if (!last) return;
+    for (const Place &place : m_places) {
+        setTabOrder(last, &place.item->focusTarget());
+        last = &place.item->focusTarget();
+    }
+    setTabOrder(last, m_more);
 }
 
 void BarStrip::paintEvent(QPaintEvent *)

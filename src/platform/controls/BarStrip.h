@@ -53,6 +53,7 @@ private:
     std::vector<std::shared_ptr<Tool>> rest() const;
 
     void openFlyout(ToolButton &button);
+    void comeLast();
     bool moveFocus(const QWidget &from, int step);
     void tellHover();
 

@@ -12,11 +12,13 @@ namespace orvane
 namespace
 {
 constexpr double Radius = 5;
-constexpr int Margin = 6;
+constexpr int Margin = 3;
 constexpr int CornerSize = 10;
+constexpr int TopMargin = 5;
 constexpr int TopHeight = 36;
-constexpr int MarkSize = 4;
-constexpr double CaptionPoints = 8.25;
+constexpr int MarkSize = 3;
+constexpr double CaptionPoints = 8;
+constexpr double LeastPoints = 6.5;
 } // namespace
 
 CaptionButton::CaptionButton(PicturePlace place) : m_place(place)
@@ -63,16 +65,30 @@ QRect CaptionButton::paintPicture(QPainter &painter)
     const QRect inside = rect().adjusted(Margin, Margin, -Margin, -Margin);
     if (!m_picture.isValid()) return inside;
     if (m_place == TopPicture) {
-        m_picture.render(&painter, QRectF(inside.left(), inside.top() - 1, inside.width(), TopHeight));
+        m_picture.render(&painter, QRectF(inside.left(), TopMargin, inside.width(), TopHeight));
         return inside.adjusted(0, TopHeight, 0, 0);
     }
-    m_picture.render(&painter, QRectF(inside.left() - 1, inside.top() - 1, CornerSize, CornerSize));
-    return inside;
+    const double middle = (height() - CornerSize) / 2.0;
+    m_picture.render(&painter, QRectF(inside.left(), middle, CornerSize, CornerSize));
+    return inside.adjusted(CornerSize, 0, 0, 0);
+}
+
+// Long words and captions of three lines are set a little smaller rather than cut.
+QFont CaptionButton::fontFor(const QRect &room) const
+{
+    QFont font = this->font();
+    const auto fits = [&] {
+        const QRect needed = QFontMetrics(font).boundingRect(room, Qt::AlignCenter | Qt::TextWordWrap, text());
+        return needed.width() <= room.width() && needed.height() <= room.height();
+    };
+    while (font.pointSizeF() > LeastPoints && !fits())
+        font.setPointSizeF(font.pointSizeF() - 0.25);
+    return font;
 }
 
 void CaptionButton::paintMark(QPainter &painter) const
 {
-    const QPointF tip(width() - Margin - MarkSize, height() - Margin);
+    const QPointF tip(width() - Margin - MarkSize - 1, height() - Margin - 2);
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette::Teal);
     painter.drawPolygon(QPolygonF({tip, tip + QPointF(-MarkSize, -MarkSize), tip + QPointF(MarkSize, -MarkSize)}));
@@ -83,8 +99,12 @@ void CaptionButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     paintCard(painter);
-    const QRect room = paintPicture(painter);
-    if (m_dropsMenu) paintMark(painter);
+    QRect room = paintPicture(painter);
+    if (m_dropsMenu) {
+        paintMark(painter);
+        room.adjust(0, 0, -2 * MarkSize, 0);
+    }
+    painter.setFont(fontFor(room));
     painter.setPen(m_captionColour);
     painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, text());
 }

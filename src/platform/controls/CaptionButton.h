@@ -35,6 +35,7 @@ protected:
 private:
     void paintCard(QPainter &painter) const;
     QRect paintPicture(QPainter &painter); // what is left for the caption
+    QFont fontFor(const QRect &room) const;
     void paintMark(QPainter &painter) const;
 
     PicturePlace m_place;

@@ -156,9 +156,11 @@ void Control::setMousePointer(int pointer)
     voice().setCursor(pointerShape(pointer));
 }
 
+// A control that isn't on show takes the focus off the others all the same.
 void Control::SetFocus()
 {
-    voice().setFocus(Qt::OtherFocusReason);
+    QWidget &target = m_widget->isVisibleTo(&m_form.surface()) ? focusTarget() : m_form.focusRest();
+    target.setFocus(Qt::OtherFocusReason);
 }
 
 void Control::Refresh()

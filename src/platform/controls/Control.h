@@ -67,7 +67,7 @@ public:
     int MousePointer() const { return m_mousePointer; }
     void setMousePointer(int pointer); // one of MousePointers
 
-    virtual void SetFocus();
+    void SetFocus();
     void Refresh();
     void ZOrderBack(); // behind the other controls of its container
 
@@ -86,6 +86,7 @@ protected:
 
     // The widget that has focus, cursor and a spoken name where it isn't the outer one.
     virtual QWidget &voice() const { return *m_widget; }
+    virtual QWidget &focusTarget() const { return voice(); }
 
 
 private:

@@ -10,7 +10,7 @@ namespace orvane
 
 FrameMenu::FrameMenu()
 {
-    setFont(barFont());
+    applyMenuLooks(*this);
     setNativeMenuBar(false); // a desktop's own menu bar has no room for the buttons of a maximised child
 }
 

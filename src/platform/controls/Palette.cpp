@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
 #include <QStyleFactory>
 #include <QToolTip>
 
@@ -64,6 +65,7 @@ void applyLooks(QApplication &application)
     QFont font(QStringLiteral("Arial"));
     font.setPointSizeF(TextPoints);
     QApplication::setFont(font);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/mark.svg")));
     application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QPalette looks = applicationPalette();
     QApplication::setPalette(looks);

@@ -33,11 +33,6 @@ QWidget &RichTextBox::voice() const
     return *m_edit.viewport();
 }
 
-void RichTextBox::SetFocus()
-{
-    m_edit.setFocus(Qt::OtherFocusReason);
-}
-
 QString RichTextBox::TextRTF() const
 {
     return writeRtf(*m_edit.document());

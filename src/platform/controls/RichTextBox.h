@@ -53,7 +53,6 @@ public:
     void setGround(const QColor &ground, int margin);              // colour and pixels round the text
     void setOneLine();                                             // no scroll bars, no wrapping
 
-    void SetFocus() override;
 
 signals:
     void Click();
@@ -64,6 +63,7 @@ signals:
 
 protected:
     QWidget &voice() const override;
+    QWidget &focusTarget() const override { return widget(); }
 
 private:
     RichEdit &m_edit;

@@ -66,19 +66,19 @@ bool ToolButton::showsCaption(bool compact) const
     return !text().isEmpty() && (icon().isNull() || !compact);
 }
 
-int ToolButton::captionWidth() const
+// Of picture and caption.
+int ToolButton::contentWidth(bool compact) const
 {
-    return fontMetrics().size(Qt::TextShowMnemonic, text()).width() + m_slack;
+    const int picture = icon().isNull() ? 0 : IconSize;
+    if (!showsCaption(compact)) return picture;
+    const int caption = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    return picture + (picture > 0 ? Gap : 0) + caption;
 }
 
 int ToolButton::widthFor(bool compact) const
 {
-    const bool withCaption = showsCaption(compact);
-    int width = 2 * Padding;
-    if (!icon().isNull()) width += IconSize;
-    if (withCaption) width += captionWidth() + (icon().isNull() ? 0 : Gap);
-    if (menu()) width += Gap + ArrowWidth;
-    return withCaption ? std::max(width, m_leastWidth) : width;
+    const int width = 2 * Padding + contentWidth(compact) + (menu() ? Gap + ArrowWidth : 0);
+    return showsCaption(compact) ? std::max(width + m_slack, m_leastWidth) : width;
 }
 
 void ToolButton::setCompact(bool compact)
@@ -146,14 +146,15 @@ void ToolButton::paintContent(QPainter &painter) const
         room.setRight(room.right() - Gap - ArrowWidth);
     }
     const bool withCaption = showsCaption(m_compact);
+    const int used = contentWidth(m_compact);
+    room = QRect(room.left() + (room.width() - used) / 2, 0, used, height());
     if (!icon().isNull()) {
-        const QRect place = withCaption ? QRect(room.left(), 0, IconSize, height()) : room;
+        const QRect place(room.left(), 0, IconSize, height());
         icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-        room.setLeft(room.left() + IconSize + Gap);
     }
     if (!withCaption) return;
     painter.setPen(isEnabled() ? palette::Ink : palette::DisabledText);
-    painter.drawText(room, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, text());
+    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, text());
 }
 
 void ToolButton::paintArrow(QPainter &painter) const

@@ -43,7 +43,7 @@ protected:
 
 private:
     bool showsCaption(bool compact) const;
-    int captionWidth() const;
+    int contentWidth(bool compact) const;
     void paintGround(QPainter &painter) const;
     void paintContent(QPainter &painter) const;
     void paintArrow(QPainter &painter) const;

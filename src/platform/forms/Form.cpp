@@ -1,6 +1,7 @@
 #include "platform/forms/Form.h"
 
 #include "platform/controls/Colour.h"
+#include "platform/forms/FocusRest.h"
 #include "platform/forms/ShellGeometry.h"
 #include "platform/forms/WindowList.h"
 #include "platform/system/Guard.h"
@@ -262,6 +263,15 @@ Control *Form::control(const QString &name) const
     const auto found = std::find_if(m_controls.begin(), m_controls.end(),
                                     [&](const Control *control) { return control->Name() == name; });
     return found == m_controls.end() ? nullptr : *found;
+}
+
+QWidget &Form::focusRest()
+{
+    if (!m_focusRest) {
+        m_focusRest = new FocusRest(*m_surface);
+        m_focusRest->setAccessibleName(m_caption);
+    }
+    return *m_focusRest;
 }
 
 void Form::adopt(Control &control)

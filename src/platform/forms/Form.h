@@ -69,6 +69,7 @@ public:
 
     Control *ActiveControl() const; // the control that has the focus in this window, or nullptr
     Control *control(const QString &name) const;
+    QWidget &focusRest(); // takes the focus off all controls on show
     NameTable &names() { return m_names; } // handlers and controls by name
 
     QWidget &shell() const { return *m_shell; }
@@ -114,6 +115,7 @@ private:
 
     QPointer<QWidget> m_shell;
     QPointer<QWidget> m_surface;
+    QPointer<QWidget> m_focusRest;
     NameTable m_names;
     std::vector<Control *> m_controls;
     QString m_caption;

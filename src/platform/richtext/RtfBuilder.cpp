@@ -12,7 +12,7 @@ namespace
 
 // The toolkit's time for a stretch without a blank grows with the square of its length: behind so many characters a
 // line ends. No word of any language is as long.
-constexpr int LongestStretch = 4096;
+constexpr int LongestStretch = 1024;
 // Each look costs a font. Text behind so many takes the look of the text before.
 constexpr qsizetype MostLooks = 4096;
 // The time for a list grows with the square of the items. A bullet looks the same in any list.
