@@ -79,20 +79,13 @@ void pressPage(const TourScript &script)
 
 void pressLink(const TourScript &script)
 {
-    if (!moduleIsActive()) return;
-    const QPointer<MDIChild> window = &activeWindow();
-    const FormPin pin(*window);
-    pressInActiveWindow(QStringLiteral("mnuLinks"), script.field(2), script.field(3));
-    barOf(*window, QStringLiteral("mnuLinks")).RecalcLayout();
+    if (moduleIsActive()) pressAndLayOut(QStringLiteral("mnuLinks"), script.field(2), script.field(3));
 }
 
 void pressPreview(const TourScript &script)
 {
-    if (activeWindowName() != QStringLiteral("frmPrint")) return;
-    MDIChild &window = activeWindow();
-    const FormPin pin(window);
-    pressInActiveWindow(QStringLiteral("mnuPrintPreview"), script.field(2), script.field(3));
-    barOf(window, QStringLiteral("mnuPrintPreview")).RecalcLayout();
+    if (activeWindowName() == QStringLiteral("frmPrint"))
+        pressAndLayOut(QStringLiteral("mnuPrintPreview"), script.field(2), script.field(3));
 }
 
 void releaseMouse(const TourScript &)
@@ -132,6 +125,14 @@ void pressInActiveWindow(const QString &bar, const QString &band, const QString 
     const FormPin pin(window);
     Tool &pressed = barOf(window, bar).Bands(band).Tools(tool);
     window.names().call(bar + QStringLiteral("_Click"), {&pressed});
+}
+
+void pressAndLayOut(const QString &bar, const QString &band, const QString &tool)
+{
+    MDIChild &window = activeWindow();
+    const FormPin pin(window); // the tool may close it
+    pressInActiveWindow(bar, band, tool);
+    barOf(window, bar).RecalcLayout();
 }
 
 void moveForward(const TourScript &script)

@@ -15,6 +15,9 @@ void moveBack(const TourScript &script);    // cf (guide, manual and records onl
 // Presses a tool of a bar of the active window, through the handler that the bar itself calls.
 void pressInActiveWindow(const QString &bar, const QString &band, const QString &tool);
 
+// The same, and lays the bar out again: its tools may be others after the press.
+void pressAndLayOut(const QString &bar, const QString &band, const QString &tool);
+
 // The Name of the active window; error 91 where there is none.
 QString activeWindowName();
 

@@ -5,12 +5,12 @@
 namespace orvane
 {
 
-const QString &TourScript::field(int index) const
+QString TourScript::field(int index) const
 {
-    if (index >= m_fields.size())
+    if (index > m_text.count(u'/'))
         throw RunTimeError(SubscriptOutOfRange,
                            QStringLiteral("The script \"%1\" has no field %2.").arg(m_text).arg(index));
-    return m_fields.at(index);
+    return m_text.section(u'/', index, index);
 }
 
 } // namespace orvane

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 namespace orvane
 {
@@ -10,16 +9,15 @@ namespace orvane
 class TourScript
 {
 public:
-    explicit TourScript(const QString &text) : m_text(text), m_fields(text.split(u'/')) {}
+    explicit TourScript(const QString &text) : m_text(text) {}
 
     // Neither a step without a move nor a button that no step has reached yet.
     bool moves() const { return m_text != QStringLiteral("(none)") && !m_text.isEmpty(); }
-    const QString &field(int index) const; // error 9 where the script has too few
+    QString field(int index) const; // from 0; error 9 where the script has too few
     QString lastCharacter() const { return m_text.right(1); }
 
 private:
     QString m_text;
-    QStringList m_fields;
 };
 
 } // namespace orvane

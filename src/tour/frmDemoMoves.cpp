@@ -1,10 +1,8 @@
 // The console's buttons that walk the live system.
 
 #include "platform/forms/DefaultInstance.h"
-#include "platform/forms/Wiring.h"
 #include "printing/frmPrint.h"
 #include "shell/SharedState.h"
-#include "shell/mdiMain.h"
 #include "tour/TourDriver.h"
 #include "tour/TourScript.h"
 #include "tour/frmDemo.h"
@@ -23,30 +21,29 @@ void endMutedPreview()
     Shared().TourStepsMuted = False;
 }
 
-void walk(const QString &scriptText, void (*move)(const TourScript &))
+void walk(const CommandButton &button, void (*move)(const TourScript &))
 {
     endMutedPreview();
-    const TourScript script(scriptText);
+    const TourScript script(button.Tag());
     if (!script.moves()) return;
     move(script);
     // Last, so that the script's step wins over what the pressed tools reported.
-    ShowTourStep(QString(script.field(0)));
+    ShowTourStep(script.field(0));
 }
 } // namespace
 
 void frmDemo::cmdGoNext_Click()
 {
-    walk(cmdGoNext.Tag(), moveForward);
+    walk(cmdGoNext, moveForward);
 }
 
 void frmDemo::cmdGoBack_Click()
 {
-    walk(cmdGoBack.Tag(), moveBack);
+    walk(cmdGoBack, moveBack);
 }
 
 void frmDemo::cmdPrint_Click()
 {
-    activeWindowName();
     Shared().TourStepsMuted = True;
     for (const auto &name : {QStringLiteral("frmIGSteps"), QStringLiteral("frmEMMain"), QStringLiteral("frmMPMain"),
                              QStringLiteral("frmATMain")})
@@ -60,14 +57,10 @@ void frmDemo::NextClick(const QString &script)
 {
     if (script.isEmpty()) return;
     const TourScript fields(script);
-    const QString verb = fields.field(0);
+    if (fields.field(0) != QStringLiteral("ml")) return;
     const QString active = activeWindowName();
-    if (verb != QStringLiteral("ml")) return;
     if (active != QStringLiteral("frmIGSteps") && active != QStringLiteral("frmEMMain")) return;
-    MDIChild &window = *Default<mdiMain>().ActiveForm();
-    const FormPin pin(window);
-    pressInActiveWindow(QStringLiteral("mnuLinks"), fields.field(1), fields.field(2));
-    barOf(window, QStringLiteral("mnuLinks")).RecalcLayout();
+    pressAndLayOut(QStringLiteral("mnuLinks"), fields.field(1), fields.field(2));
 }
 
 } // namespace orvane

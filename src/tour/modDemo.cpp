@@ -110,14 +110,21 @@ void ShowTourStep(QString &tag)
     fill(console, tag, step);
 }
 
+QString withoutLineEnds(const QString &body)
+{
+    QString kept;
+    kept.reserve(body.size());
+    for (const QChar character : body)
+        if (character != u'\r' && character != u'\n' && character != u'\f') kept += character;
+    return kept;
+}
+
 void SaveTourStep(const QString &tag)
 {
     const QString fileName = scriptFile();
     const frmDemo &console = Default<frmDemo>();
     const QString heading = console.Header.Text();
-    QString body;
-    for (const QChar character : console.rtf.TextRTF())
-        if (character != u'\r' && character != u'\n' && character != u'\f') body += character;
+    const QString body = withoutLineEnds(console.rtf.TextRTF());
     writeProfileString(tag, QStringLiteral("RTF"), body, fileName);
     writeProfileString(tag, QStringLiteral("Header"), heading, fileName);
 }

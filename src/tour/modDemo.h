@@ -18,6 +18,10 @@ void ShowTourStep(QString &&tag);
 // Writes the console's heading and body under that tag. Nothing is reported.
 void SaveTourStep(const QString &tag);
 
+// A body as it is saved: carriage returns, line feeds and form feeds are dropped, not replaced by blanks, and every
+// other character stays. A heading isn't treated so.
+QString withoutLineEnds(const QString &body);
+
 // Reads the dealer's lines into the console. A file that isn't there ends the program with error 53.
 void ReadDealerData();
 

@@ -9,7 +9,7 @@ using namespace orvane;
 
 namespace
 {
-QString subKey()
+QString knownKey()
 {
     return QStringLiteral(R"(Software\Orvane)");
 }
@@ -43,14 +43,14 @@ void tst_ReadRegistryString::store(const QString &data)
 {
     RegistryKey key;
     key.set(u"DefName"_s, {RegistryString, data});
-    m_host->setKey(HKEY_USERS, subKey(), key);
+    m_host->setKey(HKEY_USERS, knownKey(), key);
 }
 
 void tst_ReadRegistryString::aKeyThatCantBeOpenedGivesASentence_data()
 {
     QTest::addColumn<quint32>("rootKey");
     QTest::addColumn<QString>("subKey");
-    QTest::newRow("another root") << HKEY_LOCAL_MACHINE << subKey();
+    QTest::newRow("another root") << HKEY_LOCAL_MACHINE << knownKey();
     QTest::newRow("another key") << HKEY_USERS << u"Software"_s;
 }
 
@@ -65,7 +65,7 @@ void tst_ReadRegistryString::aKeyThatCantBeOpenedGivesASentence()
 void tst_ReadRegistryString::aMissingValueIsEmpty()
 {
     store(u"Ada"_s);
-    QCOMPARE(ReadRegistryString(subKey(), HKEY_USERS, u"DefCompany"_s), u""_s);
+    QCOMPARE(ReadRegistryString(knownKey(), HKEY_USERS, u"DefCompany"_s), u""_s);
 }
 
 void tst_ReadRegistryString::aValueLosesItsFinalNulAlone_data()
@@ -86,13 +86,13 @@ void tst_ReadRegistryString::aValueLosesItsFinalNulAlone()
 {
     QFETCH(QString, data);
     store(data);
-    QTEST(ReadRegistryString(subKey(), HKEY_USERS, u"DefName"_s), "text");
+    QTEST(ReadRegistryString(knownKey(), HKEY_USERS, u"DefName"_s), "text");
 }
 
 void tst_ReadRegistryString::aValueLongerThanTheBufferIsEmpty()
 {
     store(QString(255, u'x') + Nul);
-    QCOMPARE(ReadRegistryString(subKey(), HKEY_USERS, u"DefName"_s), u""_s);
+    QCOMPARE(ReadRegistryString(knownKey(), HKEY_USERS, u"DefName"_s), u""_s);
 }
 
 void tst_ReadRegistryString::trimmingTakesTheFirstCharacters_data()

@@ -13,7 +13,12 @@ using namespace orvane;
 
 namespace
 {
-QStringLiteral("System Information Is unavailable() At This Time")QString toolRecord()
+QString unavailable()
+{
+    return QStringLiteral("System Information Is Unavailable At This Time");
+}
+
+QString toolRecord()
 {
     return QStringLiteral(R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)");
 }

@@ -9,7 +9,7 @@ using namespace orvane;
 
 namespace
 {
-QString subKey()
+QString knownKey()
 {
     return QStringLiteral(R"(SOFTWARE\Orvane)");
 }
@@ -39,7 +39,7 @@ void tst_frmAboutKeyValue::store(int type, const QString &data)
 {
     RegistryKey key;
     key.set(u"PATH"_s, {type, data});
-    m_host->setKey(HKEY_LOCAL_MACHINE, subKey(), key);
+    m_host->setKey(HKEY_LOCAL_MACHINE, knownKey(), key);
 }
 
 void tst_frmAboutKeyValue::aFoundValueIsReadByItsType_data()
@@ -68,7 +68,7 @@ void tst_frmAboutKeyValue::aFoundValueIsReadByItsType()
     QFETCH(QString, data);
     QFETCH(QString, before);
     store(type, data);
-    QVERIFY(frmAbout::GetKeyValue(HKEY_LOCAL_MACHINE, subKey(), u"PATH"_s, before) == True);
+    QVERIFY(frmAbout::GetKeyValue(HKEY_LOCAL_MACHINE, knownKey(), u"PATH"_s, before) == True);
     QTEST(before, "after");
 }
 
@@ -78,10 +78,10 @@ void tst_frmAboutKeyValue::whatIsNotThereIsEmpty_data()
     QTest::addColumn<QString>("subKey");
     QTest::addColumn<QString>("valueName");
     QTest::addColumn<qsizetype>("length");
-    QTest::newRow("no such root") << HKEY_USERS << subKey() << u"PATH"_s << qsizetype(3);
+    QTest::newRow("no such root") << HKEY_USERS << knownKey() << u"PATH"_s << qsizetype(3);
     QTest::newRow("no such key") << HKEY_LOCAL_MACHINE << u"SOFTWARE"_s << u"PATH"_s << qsizetype(3);
-    QTest::newRow("no such value") << HKEY_LOCAL_MACHINE << subKey() << u"MSINFO"_s << qsizetype(3);
-    QTest::newRow("a value too long") << HKEY_LOCAL_MACHINE << subKey() << u"PATH"_s << qsizetype(1025);
+    QTest::newRow("no such value") << HKEY_LOCAL_MACHINE << knownKey() << u"MSINFO"_s << qsizetype(3);
+    QTest::newRow("a value too long") << HKEY_LOCAL_MACHINE << knownKey() << u"PATH"_s << qsizetype(1025);
 }
 
 void tst_frmAboutKeyValue::whatIsNotThereIsEmpty()

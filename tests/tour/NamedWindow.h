@@ -30,7 +30,8 @@ public:
     ActiveBar &addBar(const QString &bar, BarTable table)
     {
         m_bars.push_back(std::make_unique<ActiveBar>(*this, bar, table));
-        connect(m_bars.back().get(), &ActiveBar::Changed, this, [this, bar] { notes << bar + QStringLiteral(" laid"); });
+        connect(m_bars.back().get(), &ActiveBar::Changed, this,
+                [this, bar] { notes << bar + QStringLiteral(" laid"); });
         return *m_bars.back();
     }
 

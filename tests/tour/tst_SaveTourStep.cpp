@@ -22,7 +22,8 @@ class WithoutRights
 public:
     explicit WithoutRights(const QString &folder) : m_folder(folder)
     {
-        setRights(QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther, QFile::ReadOwner | QFile::ReadOther);
+        setRights(QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther,
+                  QFile::ReadOwner | QFile::ReadOther);
         m_isRoot = geteuid() == 0 && seteuid(Nobody) == 0;
     }
     ~WithoutRights()
@@ -36,8 +37,8 @@ public:
 private:
     void setRights(QFile::Permissions folder, QFile::Permissions file) const
     {
-        const bool set = QFile::setPermissions(m_folder + u"/DemoData.ini"_s, file) &&
-                         QFile::setPermissions(m_folder, folder);
+        const bool set =
+            QFile::setPermissions(m_folder + u"/DemoData.ini"_s, file) && QFile::setPermissions(m_folder, folder);
         if (!set) QTest::qFail("the rights can't be set", __FILE__, __LINE__);
     }
 
@@ -278,14 +279,14 @@ void tst_SaveTourStep::saveIsBelowTheEdgeAndSavesTheStepOnShow()
 
 void tst_SaveTourStep::aSaveBeforeAnyStepGoesUnderZero()
 {
-    RunningSystem fresh;
-    fresh.host.writeFile(u"DemoData.ini"_s, {});
-    fresh.console().Header.setText(u"Nowhere"_s);
-    fresh.console().Show();
-    QWidget &shell = fresh.console().shell();
-    shell.setFixedSize(shell.width(), 480);
-    fresh.click(fresh.console().cmdSave);
-    QVERIFY(fresh.host.readFile(u"DemoData.ini"_s).startsWith("[0]\r\nRTF="));
+    m_system.reset();
+    m_system.emplace(); // nothing is started
+    write({});
+    console().Show();
+    console().Header.setText(u"Nowhere"_s);
+    clickSave();
+    QVERIFY(file().startsWith("[0]\r\nRTF="));
+    QVERIFY(file().endsWith("Header=Nowhere\r\n"));
 }
 
 QTEST_MAIN(tst_SaveTourStep)

@@ -1,9 +1,9 @@
 // What the console makes of the tags that are reported.
 #include "support/RunningSystem.h"
+#include "tour/Moves.h"
 #include "tour/TourScriptFile.h"
 #include "tour/modDemo.h"
 
-#include <QPointer>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -76,9 +76,8 @@ private slots:
 
 private:
     frmDemo &console() const { return m_system->console(); }
-    void showNotice() const;
+    void showNotice();
     void reach(const QString &state) const;
-    void clickNext(const QString &script) const;
 
     std::optional<RunningSystem> m_system;
 };
@@ -95,7 +94,7 @@ void tst_ShowTourStep::cleanup()
 }
 
 // Reports 900 and lets the notice's two seconds pass.
-void tst_ShowTourStep::showNotice() const
+void tst_ShowTourStep::showNotice()
 {
     bool shown = false;
     m_system->whileModal([] { ShowTourStep(u"900"_s); },
@@ -113,12 +112,6 @@ void tst_ShowTourStep::reach(const QString &state) const
     if (state == u"muted"_s) Shared().TourStepsMuted = True;
     if (state == u"ended with dealer"_s) Shared().DealerTextPresent = True;
     if (state.startsWith(u"ended"_s)) ShowTourStep(u"603"_s);
-}
-
-void tst_ShowTourStep::clickNext(const QString &script) const
-{
-    console().cmdGoNext.setTag(script);
-    m_system->click(console().cmdGoNext);
 }
 
 void tst_ShowTourStep::aStepFillsTheConsole()
@@ -491,8 +484,10 @@ void tst_ShowTourStep::aLongValueIsCut()
 {
     QFETCH(QByteArray, key);
     QFETCH(int, length);
-    QByteArray value(length, 'a');
-    value.back() = 'z';
+    QByteArray value;
+    for (int i = 1; i < length; ++i)
+        value += i % 16 == 0 ? ' ' : 'a'; // words, as in any text
+    value += 'z';
     m_system->host.writeFile(u"DemoData.ini"_s, section("127", line(key, value)));
     ShowTourStep(u"127"_s);
     const std::map<QByteArray, QString> arrived{{"Header", console().Header.Text()},
@@ -525,7 +520,7 @@ void tst_ShowTourStep::aTagThatIsNoNumberEndsTheProgram()
     QFETCH(QString, tag);
     m_system->host.expectAnyMessage();
     m_system->host.expectEnd(1);
-    clickNext(tag + u"/xx"_s);
+    clickNext(*m_system, tag + u"/xx"_s);
     QCOMPARE(m_system->host.exitCode(), std::optional(1));
     QVERIFY(m_system->host.messages().back().text.startsWith(u"Error 13: "_s));
     QCOMPARE(console().Tag(), u"101"_s);
@@ -536,7 +531,7 @@ void tst_ShowTourStep::aConsoleTagThatIsNoNumberEndsTheProgram()
     console().setTag(u"here"_s);
     m_system->host.expectAnyMessage();
     m_system->host.expectEnd(1);
-    clickNext(u"127/xx"_s);
+    clickNext(*m_system, u"127/xx"_s);
     QVERIFY(m_system->host.messages().back().text.startsWith(u"Error 13: "_s));
     QCOMPARE(console().Tag(), u"here"_s);
 }

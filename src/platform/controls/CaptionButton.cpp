@@ -53,7 +53,7 @@ void CaptionButton::paintCard(QPainter &painter) const
     if (underMouse() && !sunk) ground = Qt::white;
     painter.setPen(QPen(hasFocus() || sunk ? palette::Teal : palette::Line, hasFocus() ? 2 : 1));
     painter.setBrush(ground);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Radius, Radius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -2, -2), Radius, Radius);
     if (!isChecked()) return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette::Amber);

@@ -50,7 +50,7 @@ void MDIChild::Show(int mode)
     if (mode == Modal)
         throw RunTimeError(InvalidProcedureCall, QStringLiteral("A window inside the frame can't be shown modal."));
     Load();
-    if (!Visible()) applyState();
+    if (!Visible()) m_frame->withoutArea([this] { applyState(); });
     SetFocus();
 }
 
@@ -59,7 +59,7 @@ void MDIChild::setWindowState(int state)
     const bool restored = state == Normal && Visible() && WindowState() == Minimized;
     // A restored child stays normal, also where the one before it was maximised.
     m_frame->area().setOption(QMdiArea::DontMaximizeSubWindowOnActivation, restored);
-    Form::setWindowState(state);
+    m_frame->withoutArea([&] { Form::setWindowState(state); });
     if (restored) SetFocus();
     m_frame->area().setOption(QMdiArea::DontMaximizeSubWindowOnActivation, false);
     if (state == Maximized && Visible()) m_frame->childActivated(this);
@@ -68,24 +68,27 @@ void MDIChild::setWindowState(int state)
 void MDIChild::Hide()
 {
     const bool wasMaximized = Visible() && WindowState() == Maximized;
-    m_frame->m_choosing = true;
-    Form::Hide();
-    m_frame->m_choosing = false;
-    m_frame->childLeft(*this, wasMaximized);
+    const QPointer<QWidget> focus = m_frame->shell().focusWidget();
+    m_frame->withoutArea([this] { Form::Hide(); });
+    m_frame->childLeft(*this, wasMaximized, focus);
 }
 
 void MDIChild::leave()
 {
     Hide();
-    m_frame->area().removeSubWindow(m_subWindow);
+    const QPointer<QWidget> focus = m_frame->shell().focusWidget();
+    m_frame->withoutArea([this] { m_frame->area().removeSubWindow(m_subWindow); });
+    m_frame->childLeft(*this, false, focus);
 }
 
 void MDIChild::SetFocus()
 {
-    m_frame->area().setActiveSubWindow(m_subWindow);
-    // The frame gives the focus back to where it was when it becomes the active window again.
-    if (const QWidget *focused = m_frame->shell().focusWidget(); !focused || !m_subWindow->isAncestorOf(focused))
-        m_subWindow->setFocus();
+    m_frame->withoutArea([this] {
+        m_frame->area().setActiveSubWindow(m_subWindow);
+        // The frame gives the focus back to where it was when it becomes the active window again.
+        const QWidget *focus = m_frame->shell().focusWidget();
+        if (!focus || !m_subWindow->isAncestorOf(focus)) m_subWindow->setFocus();
+    });
     m_frame->childActivated(this);
 }
 

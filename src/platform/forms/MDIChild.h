@@ -8,7 +8,6 @@ class QMdiSubWindow;
 namespace orvane
 {
 
-
 class MDIChild : public Form
 {
     Q_OBJECT

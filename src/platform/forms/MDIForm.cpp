@@ -28,7 +28,7 @@ MDIForm::MDIForm(const QString &name, QMainWindow *window, QMdiArea *area)
     window->statusBar()->addWidget(m_status, 1);
     connect(area, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow *sub) {
         MDIChild *child = sub ? MDIChild::of(*sub) : nullptr;
-        if (child && !m_choosing) guarded([&] { childActivated(child); });
+        if (child && m_areaMuted == 0) guarded([&] { childActivated(child); });
     });
 }
 
@@ -48,22 +48,32 @@ void MDIForm::childActivated(MDIChild *child)
     if (m_active == child) child->activated();
 }
 
+void MDIForm::withoutArea(const std::function<void()> &change)
+{
+    ++m_areaMuted;
+    change();
+    --m_areaMuted;
+}
+
 void MDIForm::forget(MDIChild &child)
 {
     std::erase(m_history, &child);
     if (m_active == &child) m_active = nullptr;
 }
 
-// Hiding a maximised child would leave it active and nothing maximised, so the frame chooses the successor itself.
-void MDIForm::childLeft(MDIChild &child, bool wasMaximized)
+// When a child goes the area makes a choice of its own, leaves nothing maximised and takes the focus along.
+void MDIForm::childLeft(MDIChild &child, bool wasMaximized, QWidget *focusBefore)
 {
     const bool wasActive = m_active == &child;
     forget(child);
-    if (!wasActive || m_history.empty()) return;
-    MDIChild *successor = m_history.back();
-    m_area->setActiveSubWindow(&successor->subWindow());
-    if (wasMaximized && successor->WindowState() == Normal) successor->setWindowState(Maximized);
-    childActivated(successor);
+    if (wasActive && !m_history.empty()) {
+        MDIChild *successor = m_history.back();
+        if (wasMaximized && successor->WindowState() == Normal) successor->setWindowState(Maximized);
+        successor->SetFocus();
+    } else if (m_active) {
+        withoutArea([this] { m_area->setActiveSubWindow(&m_active->subWindow()); });
+        if (focusBefore) focusBefore->setFocus();
+    }
 }
 
 } // namespace orvane

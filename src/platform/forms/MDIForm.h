@@ -3,6 +3,7 @@
 
 #include "platform/forms/Form.h"
 
+#include <functional>
 #include <vector>
 
 class QLabel;
@@ -35,13 +36,15 @@ private:
     MDIForm(const QString &name, QMainWindow *window, QMdiArea *area);
     void childActivated(MDIChild *child);
     void forget(MDIChild &child);
-    void childLeft(MDIChild &child, bool wasMaximized);
+    // What the area makes of a change that the program itself asks for doesn't count: the frame says who is active.
+    void withoutArea(const std::function<void()> &change);
+    void childLeft(MDIChild &child, bool wasMaximized, QWidget *focusBefore);
 
     QMdiArea *m_area;
     QLabel *m_status;
     MDIChild *m_active = nullptr;
     std::vector<MDIChild *> m_history; // the last is the one that was active last
-    bool m_choosing = false;
+    int m_areaMuted = 0;
 };
 
 } // namespace orvane

@@ -3,6 +3,7 @@
 #include <QTextDocument>
 #include <QTextList>
 #include <algorithm>
+#include <cstdlib>
 
 namespace orvane
 {
@@ -10,43 +11,42 @@ namespace orvane
 namespace
 {
 
-// The toolkit's time for a stretch without a blank grows with the square of its length: behind so many characters a
-// line ends. No word of any language is as long.
-constexpr int LongestStretch = 1024;
 // Each look costs a font. Text behind so many takes the look of the text before.
 constexpr qsizetype MostLooks = 4096;
 // The time for a list grows with the square of the items. A bullet looks the same in any list.
 constexpr int MostListItems = 64;
 
-bool isBreak(QChar c)
+// The toolkit never comes back from laying out what is taller than 8,388,607 pixels.
+constexpr double TallestDocument = 6000000;
+
+double lineHeight(const RtfCharacters &characters)
 {
-    return c == u' ' || c == u'\t' || c == QChar::LineSeparator;
+    return characters.size * 0.8;
+}
+
+// A column of about 100 pixels.
+double charactersInLine(const RtfCharacters &characters)
+{
+    return std::max(1.0, 300.0 / characters.size);
+}
+
+double heightOf(QStringView text, const RtfCharacters &characters)
+{
+    const qsizetype breaks = text.count(QChar::LineSeparator) + text.count(u'\t');
+    return lineHeight(characters) * (double(breaks) + double(text.size()) / charactersInLine(characters));
 }
 
 } // namespace
 
 void RtfBuilder::addText(QStringView text, const RtfCharacters &characters)
 {
-    if (m_runs.empty() || !(m_runs.back().characters == characters)) m_runs.push_back({m_text.size(), characters});
-    while (true) {
-        const qsizetype fitting = takeStretch(text);
-        m_text.append(text.left(fitting));
-        text = text.sliced(fitting);
-        if (text.isEmpty()) break;
-        m_text.append(QChar::LineSeparator);
-    }
-    m_runs.back().end = m_text.size();
+    m_runs.add(text, characters);
+    m_height += heightOf(text, characters);
 }
 
-// How much of the text fits before a line has to end. Surrogates stay together.
-qsizetype RtfBuilder::takeStretch(QStringView text)
+bool RtfBuilder::isFull() const
 {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool fits = m_stretch < LongestStretch || (m_stretch == LongestStretch && text[i].isLowSurrogate());
-        m_stretch = isBreak(text[i]) || !fits ? 0 : m_stretch + 1;
-        if (!fits && !isBreak(text[i])) return i;
-    }
-    return text.size();
+    return m_height > TallestDocument;
 }
 
 void RtfBuilder::endParagraph(const RtfParagraph &paragraph, const RtfCharacters &mark)
@@ -55,22 +55,21 @@ void RtfBuilder::endParagraph(const RtfParagraph &paragraph, const RtfCharacters
     insertBlock(blockFormat(paragraph), charFormat(mark));
     joinList();
     insertRuns();
-    m_text.clear();
     m_runs.clear();
-    m_stretch = 0;
+    m_height += lineHeight(mark) + pixelsOfTwips(std::abs(paragraph.before) + std::abs(paragraph.after));
     m_pageBreak = false;
     m_first = false;
 }
 
 void RtfBuilder::breakPage(const RtfParagraph &paragraph, const RtfCharacters &mark)
 {
-    if (!m_text.isEmpty()) endParagraph(paragraph, mark);
+    if (!m_runs.text().isEmpty()) endParagraph(paragraph, mark);
     m_pageBreak = true;
 }
 
 void RtfBuilder::finish(const RtfParagraph &paragraph, const RtfCharacters &mark)
 {
-    if (m_first || !m_text.isEmpty()) endParagraph(paragraph, mark);
+    if (m_first || !m_runs.text().isEmpty()) endParagraph(paragraph, mark);
 }
 
 // While the document is empty: each change of the option lays out again.
@@ -94,8 +93,8 @@ void RtfBuilder::insertBlock(const QTextBlockFormat &format, const QTextCharForm
 void RtfBuilder::insertRuns()
 {
     qsizetype start = 0;
-    for (const Run &run : m_runs) {
-        m_cursor.insertText(m_text.sliced(start, run.end - start), charFormat(run.characters));
+    for (const RtfRuns::Run &run : m_runs.runs()) {
+        m_cursor.insertText(m_runs.text().sliced(start, run.end - start), charFormat(run.characters));
         start = run.end;
     }
 }

@@ -1,10 +1,9 @@
 // Puts paragraphs into a document: gathers the runs of one, then inserts them with formats that are made once.
 #pragma once
 
-#include "RtfFormats.h"
+#include "RtfRuns.h"
 #include <QHash>
 #include <QTextCursor>
-#include <vector>
 
 class QTextList;
 
@@ -19,6 +18,8 @@ public:
 
     void setDefaultTab(int twips) { m_defaultTab = twips; }
     void addText(QStringView text, const RtfCharacters &characters);
+    // The document is as tall as can be laid out: no more is to be added.
+    bool isFull() const;
 
     // The mark's characters are the format of an empty paragraph and of a bullet.
     void endParagraph(const RtfParagraph &paragraph, const RtfCharacters &mark);
@@ -28,12 +29,6 @@ public:
     void finish(const RtfParagraph &paragraph, const RtfCharacters &mark);
 
 private:
-    struct Run {
-        qsizetype end;
-        RtfCharacters characters;
-    };
-
-    qsizetype takeStretch(QStringView text);
     void applyDefaultTab();
     void insertBlock(const QTextBlockFormat &format, const QTextCharFormat &mark);
     void insertRuns();
@@ -43,9 +38,8 @@ private:
 
     QTextCursor m_cursor;
     int m_defaultTab = DefaultTabTwips;
-    QString m_text;
-    std::vector<Run> m_runs;
-    int m_stretch = 0; // characters since the last blank
+    RtfRuns m_runs;
+    double m_height = 0; // in pixels, as tall as it gets in a narrow view
     QHash<RtfCharacters, QTextCharFormat> m_charFormats;
     QTextCharFormat m_lastLook;
     RtfParagraph m_lastParagraph;

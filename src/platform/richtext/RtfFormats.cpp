@@ -29,14 +29,13 @@ int clampedLength(int twips)
     return std::clamp(twips, 0, LargestLengthTwips);
 }
 
-RtfParagraph withBulletRoom(RtfParagraph paragraph)
+void makeBulletRoom(RtfParagraph &paragraph)
 {
-    const int glyph = clampedLength(paragraph.left + paragraph.first);
+    const int glyph = std::clamp(paragraph.left + paragraph.first, 0, LargestIndentTwips - SmallestHang);
     const int wanted = std::max(-paragraph.first, paragraph.bulletIndent);
-    const int hang = wanted <= 0 ? UsualHang : std::clamp(wanted, SmallestHang, LargestLengthTwips);
-    paragraph.left = clampedLength(glyph + hang);
-    paragraph.first = -std::min(hang, paragraph.left);
-    return paragraph;
+    const int hang = std::clamp(wanted <= 0 ? UsualHang : wanted, SmallestHang, LargestIndentTwips - glyph);
+    paragraph.left = glyph + hang;
+    paragraph.first = -hang;
 }
 
 // Where the toolkit counts tab positions from: the start of the first line's text.
@@ -113,10 +112,10 @@ int twipsOfPixels(double pixels)
 
 RtfParagraph normalParagraph(RtfParagraph paragraph)
 {
-    if (paragraph.bullet) paragraph = withBulletRoom(paragraph);
-    paragraph.left = clampedLength(paragraph.left);
-    paragraph.right = clampedLength(paragraph.right);
-    paragraph.first = std::clamp(paragraph.first, -paragraph.left, LargestLengthTwips);
+    if (paragraph.bullet) makeBulletRoom(paragraph);
+    paragraph.left = std::clamp(paragraph.left, 0, LargestIndentTwips);
+    paragraph.right = std::clamp(paragraph.right, 0, LargestIndentTwips - paragraph.left);
+    paragraph.first = std::clamp(paragraph.first, -paragraph.left, LargestIndentTwips - paragraph.left);
     paragraph.before = clampedLength(paragraph.before);
     paragraph.after = clampedLength(paragraph.after);
     paragraph.bulletIndent = 0;

@@ -56,6 +56,7 @@ struct RtfParagraph {
 inline constexpr int DefaultTabTwips = 720;
 inline constexpr int SmallestTabTwips = 15;
 inline constexpr int LargestLengthTwips = 31680; // 22 inches
+inline constexpr int LargestIndentTwips = 7200;  // leaves room for text on a page and in most windows
 inline constexpr int SmallestHalfPoints = 2;
 inline constexpr int LargestHalfPoints = 800;
 inline constexpr int MostTabs = 64;

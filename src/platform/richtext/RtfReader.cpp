@@ -15,7 +15,7 @@ RtfReader::RtfReader(QStringView text, QTextDocument &document)
 
 void RtfReader::read()
 {
-    while (!m_over) {
+    while (!m_over && !m_builder.isFull()) {
         RtfToken token = m_tokenizer.next();
         m_over = token.kind == RtfToken::End;
         if (!skips(token)) take(token);

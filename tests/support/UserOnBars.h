@@ -1,0 +1,70 @@
+// What a user does to the bars of a window with the mouse: presses a tool's button, chooses from its flyout.
+#pragma once
+
+#include "platform/controls/ActiveBar.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+
+namespace orvane::test
+{
+
+inline QAbstractButton *buttonOf(const ActiveBar &bar, const QString &tool)
+{
+    return bar.widget().findChild<QAbstractButton *>(tool);
+}
+
+inline void pressButton(const ActiveBar &bar, const QString &tool)
+{
+    QAbstractButton *button = buttonOf(bar, tool);
+    QVERIFY2(button && button->isVisible(), qPrintable(tool));
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+inline QAction *entryOf(const QMenu &menu, const QString &name)
+{
+    for (QAction *action : menu.actions())
+        if (action->objectName() == name) return action;
+    return nullptr;
+}
+
+// From entry to entry through the menus, each of which has to open the next. True if all entries could be chosen; what
+// is left open is closed.
+inline bool clickThrough(QMenu &first, const QStringList &path)
+{
+    QMenu *menu = &first;
+    for (const QString &name : path) {
+        QAction *entry = menu ? entryOf(*menu, name) : nullptr;
+        const bool open = entry && QTest::qWaitFor([menu] { return menu->isVisible(); });
+        if (!open || !entry->isEnabled()) {
+            first.close();
+            return false;
+        }
+        QMenu *next = entry->menu();
+        QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(entry).center());
+        menu = next;
+    }
+    return true;
+}
+
+// Opens the tool's flyout by its button and goes through it; returns when the choice has had its effect. False where
+// there is no flyout, or no way to the entry.
+inline bool chooseFromFlyout(const ActiveBar &bar, const QString &tool, const QStringList &path)
+{
+    bool chosen = false;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu) return;
+        watch.stop();
+        chosen = clickThrough(*menu, path);
+    });
+    watch.start(1);
+    pressButton(bar, tool);
+    return chosen;
+}
+
+} // namespace orvane::test

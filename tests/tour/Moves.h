@@ -1,0 +1,30 @@
+// The console's two buttons with a script of the test's own, and the windows that scripts act on.
+#pragma once
+
+#include "documents/frmIGSteps.h"
+#include "shell/modFunctions.h"
+#include "support/RunningSystem.h"
+
+namespace orvane::test
+{
+
+inline void clickNext(const RunningSystem &system, const QString &script)
+{
+    system.console().cmdGoNext.setTag(script);
+    system.click(system.console().cmdGoNext);
+}
+
+inline void clickBack(const RunningSystem &system, const QString &script)
+{
+    system.console().cmdGoBack.setTag(script);
+    system.click(system.console().cmdGoBack);
+}
+
+// The guide's step, in front.
+inline frmIGSteps &openStep(const RunningSystem &system)
+{
+    OpenGuide(QStringLiteral("STEP 17 - Emergency Preparedness and Response"), QStringLiteral("127"));
+    return dynamic_cast<frmIGSteps &>(*system.active());
+}
+
+} // namespace orvane::test
