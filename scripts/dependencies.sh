@@ -8,6 +8,7 @@
     packages_run=(fonts-liberation fonts-dejavu-core x11-utils)
     packages_wayland=(qt6-wayland)
     packages_virtual_display=(xvfb openbox)
+    packages_bench=(libbenchmark-dev hyperfine time unrtf pandoc abiword libreoffice-writer-nogui)
     packages_check=(fonts-liberation fonts-dejavu-core clang-format-14 clang libclang-rt-14-dev)
 }
 

@@ -16,8 +16,21 @@
 #include "shell/modFunctions.h"
 #include "tour/modDemo.h"
 
+#include <map>
+#include <optional>
+
 namespace orvane
 {
+
+namespace
+{
+RichTextBox &textAtWork()
+{
+    auto *text = dynamic_cast<RichTextBox *>(screenActiveControl());
+    if (!text) throw RunTimeError(NoSuchMember, QStringLiteral("The active control has no format of its own."));
+    return *text;
+}
+} // namespace
 
 void mdiMain::mnuMain_Click(Tool &tool)
 {
@@ -63,6 +76,7 @@ void mdiMain::sendToText(const QString &keys)
     if (child && dynamic_cast<RichTextBox *>(child->ActiveControl())) SendKeys(keys);
 }
 
+// Goes on past failures; the last one is shown.
 void mdiMain::help(int command)
 {
     if (App().HelpFile().isEmpty()) {
@@ -70,34 +84,37 @@ void mdiMain::help(int command)
                InformationIcon, Caption());
         return;
     }
-    if (command == HelpContents) ShowTourStep(QStringLiteral("601"));
-    try {
-        WinHelp(App().HelpFile(), command);
-    } catch (const RunTimeError &error) {
-        MsgBox(error.Description());
-    }
+    std::optional<QString> failure;
+    const auto goPast = [&failure](const auto &step) {
+        try {
+            step();
+        } catch (const RunTimeError &error) {
+            failure = error.Description();
+        }
+    };
+    if (command == HelpContents) goPast([] { ShowTourStep(QStringLiteral("601")); });
+    goPast([command] { WinHelp(App().HelpFile(), command); });
+    if (failure) MsgBox(*failure);
 }
 
 void mdiMain::FormatSelection(Tool &tool)
 {
-    auto *text = dynamic_cast<RichTextBox *>(screenActiveControl());
-    if (!text) throw RunTimeError(NoSuchMember, QStringLiteral("The active control has no format of its own."));
-    const QString &name = tool.Name();
-    if (name == QStringLiteral("miBold")) text->setSelBold(!text->SelBold());
-    if (name == QStringLiteral("miItalic")) text->setSelItalic(!text->SelItalic());
-    if (name == QStringLiteral("miUnderline")) text->setSelUnderline(!text->SelUnderline());
-    if (name == QStringLiteral("miLeft")) text->setSelAlignment(AlignLeft);
-    if (name == QStringLiteral("miRight")) text->setSelAlignment(AlignRight);
-    if (name == QStringLiteral("miCenter")) text->setSelAlignment(AlignCenter);
+    static const std::map<QString, void (*)(RichTextBox &)> formats{
+        {QStringLiteral("miBold"), [](RichTextBox &text) { text.setSelBold(!text.SelBold()); }},
+        {QStringLiteral("miItalic"), [](RichTextBox &text) { text.setSelItalic(!text.SelItalic()); }},
+        {QStringLiteral("miUnderline"), [](RichTextBox &text) { text.setSelUnderline(!text.SelUnderline()); }},
+        {QStringLiteral("miLeft"), [](RichTextBox &text) { text.setSelAlignment(AlignLeft); }},
+        {QStringLiteral("miRight"), [](RichTextBox &text) { text.setSelAlignment(AlignRight); }},
+        {QStringLiteral("miCenter"), [](RichTextBox &text) { text.setSelAlignment(AlignCenter); }},
+    };
+    if (const auto format = formats.find(tool.Name()); format != formats.end()) format->second(textAtWork());
 }
 
 void mdiMain::FontSelection(Tool &tool)
 {
-    auto *text = dynamic_cast<RichTextBox *>(screenActiveControl());
-    if (!text) throw RunTimeError(NoSuchMember, QStringLiteral("The active control has no font of its own."));
     const QString entry = tool.List().value(tool.ListIndex());
-    if (tool.Name() == QStringLiteral("miFont")) text->setSelFontName(entry);
-    if (tool.Name() == QStringLiteral("miFontSize")) text->setSelFontSize(toNumber(entry));
+    if (tool.Name() == QStringLiteral("miFont")) textAtWork().setSelFontName(entry);
+    if (tool.Name() == QStringLiteral("miFontSize")) textAtWork().setSelFontSize(toNumber(entry));
 }
 
 } // namespace orvane

@@ -120,7 +120,7 @@ private slots:
     void tabsStopAtTheirPlaces();
     void theProductWordOfTheTitleIsLarger();
     void theShortHeadingIsSmallWithARedWord();
-    void thePageIsInk();
+    void theTextStandsOutFromItsGround();
 
 private:
     static void addViews();
@@ -250,7 +250,7 @@ void tst_GuidePageLooks::theShortHeadingIsSmallWithARedWord()
     QCOMPARE(lookAt(click, 8), (Look{.size = 18, .red = true}));
 }
 
-void tst_GuidePageLooks::thePageIsInk()
+void tst_GuidePageLooks::theTextStandsOutFromItsGround()
 {
     const OpenPage page(u"Requirement"_s);
     const QColor text = page.open.page().palette().color(QPalette::Text);

@@ -175,6 +175,7 @@ inline void onceAMenuIsOpen(QObject &context, std::function<void(QMenu &)> step)
         if (!menu) return;
         watch->stop();
         watch->deleteLater();
+        QCoreApplication::processEvents(); // the offscreen platform's activation of the menu may still be under way
         step(*menu);
     });
     watch->start(1);
@@ -190,6 +191,12 @@ inline QAction *entry(const QMenu &menu, const QString &name)
 inline void clickEntry(QMenu &menu, const QString &name)
 {
     QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier, menu.actionGeometry(entry(menu, name)).center());
+}
+
+inline QColor colourAt(QWidget &widget, const QPoint &point)
+{
+    const QImage shown = widget.grab().toImage();
+    return shown.pixelColor(point * shown.devicePixelRatio());
 }
 
 } // namespace barfixture

@@ -80,6 +80,7 @@ private slots:
     void aCheckedToolStaysCheckedAfterItsClick();
     void theHighlightedEntryIsDescribed();
 
+    void afterAPopupNothingIsDescribed();
     void aPopupReturnsWhenItHasClosed();
     void aPopupClicksBeforeItReturns();
     void aPopupDropsAtItsPlace();
@@ -306,6 +307,20 @@ void tst_ActiveBarMenus::theHighlightedEntryIsDescribed()
     QCOMPARE(told, u"Who you are"_s);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
     QCOMPARE(told, QString());
+}
+
+void tst_ActiveBarMenus::afterAPopupNothingIsDescribed()
+{
+    BarWindow window;
+    window.open();
+    QStringList told;
+    connect(window.bar.get(), &ActiveBar::Hover, this, [&](const QString &text) { told += text; });
+    onceAMenuIsOpen(window, [](QMenu &menu) {
+        QTest::keyClick(&menu, Qt::Key_Down);
+        QTest::keyClick(&menu, Qt::Key_Escape);
+    });
+    window.bar->Bands(u"EMLink"_s).PopupMenu(-1, -1);
+    QCOMPARE(told, (QStringList{u"Section 4.4.7"_s, QString()}));
 }
 
 void tst_ActiveBarMenus::aPopupReturnsWhenItHasClosed()

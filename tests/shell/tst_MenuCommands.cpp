@@ -81,7 +81,10 @@ private slots:
 private:
     mdiMain &frame() const { return m_system->frame(); }
     frmDemo &console() const { return m_system->console(); }
-    void press(const QString &band, const QString &tool) const { m_system->clickTool(frame(), u"mnuMain"_s, band, tool); }
+    void press(const QString &band, const QString &tool) const
+    {
+        m_system->clickTool(frame(), u"mnuMain"_s, band, tool);
+    }
     void clickLoose(const QString &name) const;
     void openGuide() const { m_system->click(m_system->diagram().cmdImp(1)); }
     void pressBehindTheNotice(const QString &band, const QString &tool);
@@ -416,8 +419,7 @@ void tst_MenuCommands::withoutHelpFileTheUserIsTold()
     QFETCH(QString, tool);
     openGuide();
     App().setHelpFile({});
-    m_system->host.expectMessage(
-        u"Unable to display Help Contents. There is no Help associated with this program."_s);
+    m_system->host.expectMessage(u"Unable to display Help Contents. There is no Help associated with this program."_s);
     press(u"mnuHelp"_s, tool);
     QCOMPARE(m_system->host.messages().size(), 1U);
     QCOMPARE(m_system->host.messages().at(0).style, 64);

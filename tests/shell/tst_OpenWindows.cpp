@@ -139,8 +139,7 @@ void tst_OpenWindows::eachModuleHasItsWindowPrefixAndTitle_data()
                             << u"orvane (Environment Manual)"_s;
     QTest::newRow("procedures") << &OpenProcedures << u"[Management Procedures] - A b"_s << u"frmMPMain"_s
                                 << u"orvane (Management Procedures)"_s;
-    QTest::newRow("tools") << &OpenTools << u"[Action Tools] - A b"_s << u"frmATMain"_s
-                           << u"orvane (Action Tools)"_s;
+    QTest::newRow("tools") << &OpenTools << u"[Action Tools] - A b"_s << u"frmATMain"_s << u"orvane (Action Tools)"_s;
     QTest::newRow("records") << &OpenRecords << u"[Records] - A b"_s << u"frmRCMain"_s << u"orvane (Records)"_s;
 }
 

@@ -386,8 +386,7 @@ void tst_WindowMenu::theMenuShowsTheTools()
     for (const QAction *action : menu->actions())
         shown << action->text() + (action->isChecked() ? u" checked"_s : u""_s);
     menu->close();
-    QCOMPARE(shown,
-             (QStringList{u"&1 Command Center"_s, u"&2 [Implementation Guide] - Using this Guide checked"_s}));
+    QCOMPARE(shown, (QStringList{u"&1 Command Center"_s, u"&2 [Implementation Guide] - Using this Guide checked"_s}));
 }
 
 QTEST_MAIN(tst_WindowMenu)

@@ -246,7 +246,8 @@ void tst_frmProperties::withoutAnActiveWindowOkFailsAfterItHasSaved()
     m_system->host.expectAnyMessage();
     m_system->host.expectEnd(1);
     m_system->click(dialog().cmdOK);
-    QVERIFY(m_system->host.messages().back().text.contains(u"91"));
+    QCOMPARE(m_system->host.messages().size(), 1U);
+    QVERIFY(m_system->host.messages()[0].text.contains(u"91"));
     QCOMPARE(stored(u"Name"_s), u"Ada"_s);
     QVERIFY(Shared().UserDetailsSaved == True);
     QVERIFY(isLoaded());

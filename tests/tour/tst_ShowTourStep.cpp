@@ -45,11 +45,13 @@ private slots:
     void theNoticeBlocksUntilItsTimeIsOver();
     void theNoticeComesUpWithTheConsoleHidden();
     void theNoticeComesUpInTheEndedState();
+    void theNoticeIsKnownByItsNumber();
     void aMutedSystemHearsNothing_data();
     void aMutedSystemHearsNothing();
     void aStepBringsTheConsoleForward();
     void theEndedStateBringsTheConsoleForwardToo();
     void theEndShowsQuitAlone();
+    void theEndWithoutDealerTextHidesTheDealersBox();
     void theEndWithDealerTextIsAnotherStep();
     void theEndWithDealerTextNeverReadsTheOtherSection();
     void theCallersTagIsChangedByDealerTextAlone_data();
@@ -76,7 +78,7 @@ private slots:
 
 private:
     frmDemo &console() const { return m_system->console(); }
-    void showNotice();
+    void showNotice(const QString &tag);
     void reach(const QString &state) const;
 
     std::optional<RunningSystem> m_system;
@@ -93,11 +95,11 @@ void tst_ShowTourStep::cleanup()
     m_system.reset();
 }
 
-// Reports 900 and lets the notice's two seconds pass.
-void tst_ShowTourStep::showNotice()
+// Reports the tag and lets the notice's two seconds pass.
+void tst_ShowTourStep::showNotice(const QString &tag)
 {
     bool shown = false;
-    m_system->whileModal([] { ShowTourStep(u"900"_s); },
+    m_system->whileModal([&] { ShowTourStep(QString(tag)); },
                          [&] {
                              shown = countWindows(u"frmError"_s) == 1 && Default<frmError>().Visible();
                              m_system->host.advance(2000);
@@ -218,7 +220,7 @@ void tst_ShowTourStep::theNoticeBlocksUntilItsTimeIsOver()
 void tst_ShowTourStep::theNoticeComesUpWithTheConsoleHidden()
 {
     console().setVisible(false);
-    showNotice();
+    showNotice(u"900"_s);
     QVERIFY(!console().Visible());
     QCOMPARE(console().Tag(), u"101"_s);
 }
@@ -226,9 +228,15 @@ void tst_ShowTourStep::theNoticeComesUpWithTheConsoleHidden()
 void tst_ShowTourStep::theNoticeComesUpInTheEndedState()
 {
     ShowTourStep(u"603"_s);
-    showNotice();
+    showNotice(u"900"_s);
     QCOMPARE(console().Tag(), u"603"_s);
     QVERIFY(console().cmdGoNext.Enabled());
+}
+
+void tst_ShowTourStep::theNoticeIsKnownByItsNumber()
+{
+    showNotice(u"0900"_s);
+    QCOMPARE(console().Tag(), u"101"_s);
 }
 
 void tst_ShowTourStep::aMutedSystemHearsNothing_data()
@@ -277,6 +285,13 @@ void tst_ShowTourStep::theEndShowsQuitAlone()
     QVERIFY(console().cmdQuit.Visible());
     QVERIFY(!console().cmdGoNext.Visible());
     QVERIFY(!console().cmdGoBack.Visible());
+    QVERIFY(!console().txtInfo.Visible());
+}
+
+void tst_ShowTourStep::theEndWithoutDealerTextHidesTheDealersBox()
+{
+    console().txtInfo.setVisible(true);
+    ShowTourStep(u"603"_s);
     QVERIFY(!console().txtInfo.Visible());
 }
 

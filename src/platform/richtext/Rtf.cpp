@@ -32,6 +32,7 @@ void readPlainText(QString text, QTextDocument &document)
     for (const QStringView line : QStringView(text).split(u'\n')) {
         if (!line.isEmpty()) builder.addText(line, characters);
         builder.endParagraph({}, characters);
+        if (builder.isFull()) return;
     }
 }
 

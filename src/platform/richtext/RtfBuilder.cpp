@@ -16,47 +16,50 @@ constexpr qsizetype MostLooks = 4096;
 // The time for a list grows with the square of the items. A bullet looks the same in any list.
 constexpr int MostListItems = 64;
 
-// The toolkit never comes back from laying out what is taller than 8,388,607 pixels.
-constexpr double TallestDocument = 6000000;
+// The toolkit never comes back from laying out what is taller than 8,388,607 pixels. Heights count in thousandths,
+// since sums have to come out the same however the text is cut.
+constexpr qint64 TallestDocument = 6'000'000'000;
+constexpr qsizetype PieceLength = 1024;
 
-double lineHeight(const RtfCharacters &characters)
+qint64 lineHeight(const RtfCharacters &characters)
 {
-    return characters.size * 0.8;
+    return characters.size * 800;
 }
 
-// A column of about 100 pixels.
-double charactersInLine(const RtfCharacters &characters)
+// In a column of about 100 pixels.
+qint64 heightOf(QStringView text, const RtfCharacters &characters)
 {
-    return std::max(1.0, 300.0 / characters.size);
-}
-
-double heightOf(QStringView text, const RtfCharacters &characters)
-{
+    const qint64 charactersInLine = std::max(1, 300 / characters.size);
     const qsizetype breaks = text.count(QChar::LineSeparator) + text.count(u'\t');
-    return lineHeight(characters) * (double(breaks) + double(text.size()) / charactersInLine(characters));
+    return lineHeight(characters) * breaks + lineHeight(characters) / charactersInLine * text.size();
 }
 
 } // namespace
 
 void RtfBuilder::addText(QStringView text, const RtfCharacters &characters)
 {
-    m_runs.add(text, characters);
-    m_height += heightOf(text, characters);
-}
-
-bool RtfBuilder::isFull() const
-{
-    return m_height > TallestDocument;
+    const RtfCharacters &look = admitted(characters);
+    while (!m_full && !text.isEmpty()) {
+        const qsizetype start = m_runs.text().size();
+        m_runs.add(text.left(PieceLength), look);
+        const qint64 height = m_height + heightOf(QStringView(m_runs.text()).sliced(start), look);
+        m_full = height > TallestDocument;
+        if (m_full) return m_runs.truncate(start);
+        m_height = height;
+        text = text.sliced(std::min(PieceLength, text.size()));
+    }
 }
 
 void RtfBuilder::endParagraph(const RtfParagraph &paragraph, const RtfCharacters &mark)
 {
+    const RtfCharacters &look = admitted(mark);
     if (m_first) applyDefaultTab();
-    insertBlock(blockFormat(paragraph), charFormat(mark));
+    insertBlock(blockFormat(paragraph), m_charFormats.value(look));
     joinList();
     insertRuns();
     m_runs.clear();
-    m_height += lineHeight(mark) + pixelsOfTwips(std::abs(paragraph.before) + std::abs(paragraph.after));
+    m_height += lineHeight(look) + qint64(1000 * (m_format.topMargin() + m_format.bottomMargin()));
+    m_full = m_full || m_height > TallestDocument;
     m_pageBreak = false;
     m_first = false;
 }
@@ -94,20 +97,20 @@ void RtfBuilder::insertRuns()
 {
     qsizetype start = 0;
     for (const RtfRuns::Run &run : m_runs.runs()) {
-        m_cursor.insertText(m_runs.text().sliced(start, run.end - start), charFormat(run.characters));
+        m_cursor.insertText(m_runs.text().sliced(start, run.end - start), m_charFormats.value(run.characters));
         start = run.end;
     }
 }
 
 QTextBlockFormat RtfBuilder::blockFormat(const RtfParagraph &paragraph)
 {
-    if (m_first || !(paragraph == m_lastParagraph)) {
+    if (m_first || !(paragraph == m_paragraph)) {
         const RtfParagraph normal = normalParagraph(paragraph);
-        m_lastParagraph = paragraph;
-        m_lastFormat = toBlockFormat(normal);
+        m_paragraph = paragraph;
+        m_format = toBlockFormat(normal);
         m_bullet = normal.bullet;
     }
-    QTextBlockFormat format = m_lastFormat;
+    QTextBlockFormat format = m_format;
     if (m_pageBreak) format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     return format;
 }
@@ -126,14 +129,13 @@ void RtfBuilder::joinList()
     }
 }
 
-QTextCharFormat RtfBuilder::charFormat(const RtfCharacters &characters)
+const RtfCharacters &RtfBuilder::admitted(const RtfCharacters &characters)
 {
-    auto found = m_charFormats.constFind(characters);
-    if (found != m_charFormats.cend())
-        m_lastLook = *found;
-    else if (m_charFormats.size() < MostLooks)
-        m_lastLook = *m_charFormats.insert(characters, toCharFormat(characters));
-    return m_lastLook;
+    if (!m_charFormats.isEmpty() && characters == m_look) return m_look;
+    const bool known = m_charFormats.contains(characters);
+    if (known || m_charFormats.size() < MostLooks) m_look = characters;
+    if (!known) m_charFormats.insert(m_look, toCharFormat(m_look));
+    return m_look;
 }
 
 } // namespace orvane

@@ -19,7 +19,7 @@ public:
     void setDefaultTab(int twips) { m_defaultTab = twips; }
     void addText(QStringView text, const RtfCharacters &characters);
     // The document is as tall as can be laid out: no more is to be added.
-    bool isFull() const;
+    bool isFull() const { return m_full; }
 
     // The mark's characters are the format of an empty paragraph and of a bullet.
     void endParagraph(const RtfParagraph &paragraph, const RtfCharacters &mark);
@@ -34,16 +34,17 @@ private:
     void insertRuns();
     QTextBlockFormat blockFormat(const RtfParagraph &paragraph);
     void joinList();
-    QTextCharFormat charFormat(const RtfCharacters &characters);
+    const RtfCharacters &admitted(const RtfCharacters &characters);
 
     QTextCursor m_cursor;
     int m_defaultTab = DefaultTabTwips;
     RtfRuns m_runs;
-    double m_height = 0; // in pixels, as tall as it gets in a narrow view
+    qint64 m_height = 0; // as tall as the document gets in a narrow view
+    bool m_full = false;
     QHash<RtfCharacters, QTextCharFormat> m_charFormats;
-    QTextCharFormat m_lastLook;
-    RtfParagraph m_lastParagraph;
-    QTextBlockFormat m_lastFormat;
+    RtfCharacters m_look; // of the text or mark before
+    RtfParagraph m_paragraph;
+    QTextBlockFormat m_format;
     QTextList *m_list = nullptr;
     bool m_bullet = false;
     bool m_first = true;

@@ -28,6 +28,14 @@ void RtfRuns::add(QStringView text, const RtfCharacters &characters)
     m_runs.back().end = m_text.size();
 }
 
+void RtfRuns::truncate(qsizetype length)
+{
+    m_text.truncate(length);
+    while (!m_runs.empty() && (m_runs.size() == 1 ? 0 : m_runs[m_runs.size() - 2].end) >= length)
+        m_runs.pop_back();
+    if (!m_runs.empty()) m_runs.back().end = length;
+}
+
 void RtfRuns::clear()
 {
     m_text.clear();

@@ -17,6 +17,7 @@ public:
 
     // Text of the look that the text before has is no run of its own.
     void add(QStringView text, const RtfCharacters &characters);
+    void truncate(qsizetype length);
     void clear();
 
     const QString &text() const { return m_text; }
