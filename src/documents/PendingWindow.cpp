@@ -10,11 +10,11 @@
 namespace orvane
 {
 
-PendingWindow::PendingWindow(const QString &name, const QString &tagPrefix, const QString &moduleCode)
+PendingWindow::PendingWindow(const QString &name, const QString &tagPrefix, const QString &moduleCode, Pages pages)
     : MDIChild(Default<mdiMain>(), name), gradient(*this, QStringLiteral("zelGradient"), zelGradient::Strip),
       pnlHeading(gradient, QStringLiteral("pnlHeading")), lblPending(*this, QStringLiteral("lblPending")),
       cmdClose(*this, QStringLiteral("cmdClose"), QStringLiteral("Close")), m_tagPrefix(tagPrefix),
-      m_moduleCode(moduleCode)
+      m_moduleCode(moduleCode), m_pages(pages)
 {
     setDesignSize(8250, 4950);
     setBackColor(0xFFFFFF);
@@ -34,7 +34,7 @@ void PendingWindow::Form_Load()
     lblPending.setCaption(QStringLiteral("The pages of \"%1\" come with a later edition.").arg(Shared().TitleText));
     setTag(m_tagPrefix + Shared().TitleText);
     setCaption(Shared().TitleText);
-    UpdateEditTools();
+    if (m_pages == ForEditing) UpdateEditTools();
     setWindowState(Maximized);
     Form_Resize();
 }

@@ -21,7 +21,9 @@ public:
     void Form_Resize() override;
 
 protected:
-    PendingWindow(const QString &name, const QString &tagPrefix, const QString &moduleCode);
+    enum Pages { ForReading, ForEditing };
+
+    PendingWindow(const QString &name, const QString &tagPrefix, const QString &moduleCode, Pages pages);
 
     void Form_Load() override;
     void Form_Activate() override;
@@ -31,6 +33,7 @@ protected:
 private:
     QString m_tagPrefix;
     QString m_moduleCode;
+    Pages m_pages;
 };
 
 } // namespace orvane

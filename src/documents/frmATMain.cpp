@@ -5,6 +5,8 @@
 namespace orvane
 {
 
-frmATMain::frmATMain() : PendingWindow(QStringLiteral("frmATMain"), prefix::Tools(), QStringLiteral("AT")) {}
+frmATMain::frmATMain() : PendingWindow(QStringLiteral("frmATMain"), prefix::Tools(), QStringLiteral("AT"), ForReading)
+{
+}
 
 } // namespace orvane

@@ -5,6 +5,8 @@
 namespace orvane
 {
 
-frmEMMain::frmEMMain() : PendingWindow(QStringLiteral("frmEMMain"), prefix::Manual(), QStringLiteral("EM")) {}
+frmEMMain::frmEMMain() : PendingWindow(QStringLiteral("frmEMMain"), prefix::Manual(), QStringLiteral("EM"), ForEditing)
+{
+}
 
 } // namespace orvane

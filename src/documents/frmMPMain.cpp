@@ -5,6 +5,9 @@
 namespace orvane
 {
 
-frmMPMain::frmMPMain() : PendingWindow(QStringLiteral("frmMPMain"), prefix::Procedures(), QStringLiteral("MP")) {}
+frmMPMain::frmMPMain()
+    : PendingWindow(QStringLiteral("frmMPMain"), prefix::Procedures(), QStringLiteral("MP"), ForEditing)
+{
+}
 
 } // namespace orvane

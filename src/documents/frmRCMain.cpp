@@ -5,6 +5,8 @@
 namespace orvane
 {
 
-frmRCMain::frmRCMain() : PendingWindow(QStringLiteral("frmRCMain"), prefix::Records(), QStringLiteral("RC")) {}
+frmRCMain::frmRCMain() : PendingWindow(QStringLiteral("frmRCMain"), prefix::Records(), QStringLiteral("RC"), ForReading)
+{
+}
 
 } // namespace orvane

@@ -69,15 +69,13 @@ void frmSplash::dressLabels()
     imgLogo.setPicture(QStringLiteral("mark"));
     imgLogo.setPurpose(QStringLiteral("orvane"));
     lblCompanyProduct.setCaption(QStringLiteral("orvane"));
+    // Few fonts: each one that a start has to find takes its time.
     lblCompanyProduct.setFont(QStringLiteral("Arial"), 9.75, true);
     Label1.setCaption(QStringLiteral("DEMO"));
     Label1.setFont(QStringLiteral("Arial"), 15, true);
     Label1.setForeColor(fromColour(palette::RedDot));
     lblUserName.setFont(QStringLiteral("Arial"), 9.75, true);
-    lblUserCompany.setFont(QStringLiteral("Arial"), 9.75, false);
-    lblCopyright.setFont(QStringLiteral("Arial"), 8.25, false);
     lblCopyright.setCaption(QStringLiteral("This program, its texts and its pictures are protected by copyright."));
-    lblWarning.setFont(QStringLiteral("Arial"), 8.25, false);
     lblWarning.setCaption(
         QStringLiteral("Please don't pass on copies unless your licence allows it. The sample documents "
                        "are for guidance: check them against the law and the standard that apply to "

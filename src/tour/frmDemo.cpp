@@ -11,10 +11,9 @@ namespace orvane
 {
 
 frmDemo::frmDemo()
-    : Window(QStringLiteral("frmDemo"), FixedBorder), pic(*this, QStringLiteral("pic")),
-      Header(*this, QStringLiteral("Header")), rtf(*this, QStringLiteral("rtf")),
-      txtInfo(*this, QStringLiteral("txtInfo"), TextBox::ManyLines),
-      cmdGoBack(*this, QStringLiteral("cmdGoBack"), QStringLiteral("Back")),
+    : Window(QStringLiteral("frmDemo"), FixedBorder), Header(*this, QStringLiteral("Header")),
+      rtf(*this, QStringLiteral("rtf")), txtInfo(*this, QStringLiteral("txtInfo"), TextBox::ManyLines),
+      pic(*this, QStringLiteral("pic")), cmdGoBack(*this, QStringLiteral("cmdGoBack"), QStringLiteral("Back")),
       cmdPrint(*this, QStringLiteral("cmdPrint"), QStringLiteral("Print")),
       cmdGoNext(*this, QStringLiteral("cmdGoNext"), QStringLiteral("Next")),
       cmdNext(*this, QStringLiteral("cmdNext"), QStringLiteral("Next")),

@@ -20,10 +20,10 @@ class frmDemo : public Window
 public:
     frmDemo();
 
-    PictureBox pic;
     RichTextBox Header;
     RichTextBox rtf;
     TextBox txtInfo;
+    PictureBox pic; // behind the others
     CommandButton cmdGoBack;
     CommandButton cmdPrint;
     CommandButton cmdGoNext;

@@ -356,8 +356,10 @@ void tst_StartUp::aGuideOpenedWhileTheConsoleHasTheFocusStaysActive()
     m_system->console().SetFocus();
     QTRY_VERIFY(m_system->console().shell().isActiveWindow());
     m_system->click(m_system->diagram().cmdImp(1));
-    QTest::qWait(50);
     QVERIFY(m_system->active());
+    QCOMPARE(m_system->active()->Name(), u"frmIGSteps"_s);
+    m_system->frame().SetFocus();
+    QTRY_VERIFY(m_system->frame().shell().isActiveWindow());
     QCOMPARE(m_system->active()->Name(), u"frmIGSteps"_s);
 }
 

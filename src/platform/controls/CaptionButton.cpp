@@ -30,8 +30,7 @@ CaptionButton::CaptionButton(PicturePlace place) : m_place(place)
 
 void CaptionButton::setPicture(const QString &name)
 {
-    m_picture.load(QStringLiteral(":/pictures/%1.svg").arg(name));
-    m_picture.setAspectRatioMode(Qt::KeepAspectRatio);
+    m_picture.set(name);
     update();
 }
 
@@ -63,13 +62,13 @@ void CaptionButton::paintCard(QPainter &painter) const
 QRect CaptionButton::paintPicture(QPainter &painter)
 {
     const QRect inside = rect().adjusted(Margin, Margin, -Margin, -Margin);
-    if (!m_picture.isValid()) return inside;
+    if (!m_picture.isSet()) return inside;
     if (m_place == TopPicture) {
-        m_picture.render(&painter, QRectF(inside.left(), TopMargin, inside.width(), TopHeight));
+        m_picture.paint(painter, QRectF(inside.left(), TopMargin, inside.width(), TopHeight));
         return inside.adjusted(0, TopHeight, 0, 0);
     }
     const double middle = (height() - CornerSize) / 2.0;
-    m_picture.render(&painter, QRectF(inside.left(), middle, CornerSize, CornerSize));
+    m_picture.paint(painter, QRectF(inside.left(), middle, CornerSize, CornerSize));
     return inside.adjusted(CornerSize, 0, 0, 0);
 }
 

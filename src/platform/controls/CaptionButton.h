@@ -2,8 +2,9 @@
 // drops a menu, which Down opens as well.
 #pragma once
 
+#include "platform/controls/Drawing.h"
+
 #include <QAbstractButton>
-#include <QSvgRenderer>
 
 namespace orvane
 {
@@ -39,7 +40,7 @@ private:
     void paintMark(QPainter &painter) const;
 
     PicturePlace m_place;
-    QSvgRenderer m_picture;
+    Drawing m_picture;
     QColor m_captionColour = Qt::black;
     bool m_dropsMenu = false;
 };

@@ -8,16 +8,14 @@ namespace orvane
 
 void PictureView::setPicture(const QString &name)
 {
-    m_drawing.load(QStringLiteral(":/pictures/%1.svg").arg(name));
-    m_drawing.setAspectRatioMode(Qt::KeepAspectRatio);
+    m_drawing.set(name);
     update();
 }
 
 void PictureView::paintEvent(QPaintEvent *)
 {
-    if (!m_drawing.isValid()) return;
     QPainter painter(this);
-    m_drawing.render(&painter, rect());
+    m_drawing.paint(painter, rect());
 }
 
 void PictureView::mouseReleaseEvent(QMouseEvent *event)

@@ -1,7 +1,8 @@
 // Shows a drawing of the program, sharp at every scale.
 #pragma once
 
-#include <QSvgRenderer>
+#include "platform/controls/Drawing.h"
+
 #include <QWidget>
 
 namespace orvane
@@ -24,7 +25,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    QSvgRenderer m_drawing;
+    Drawing m_drawing;
 };
 
 } // namespace orvane
