@@ -32,7 +32,7 @@ main() {
     else
         install_packages "${packages_virtual_display[@]}"
     fi
-    build release
+    build release orvane tourwalk
     begin_session
     if [[ $display == none ]]; then walk; else open_program "$display"; fi
 }

@@ -28,6 +28,7 @@ frmCommandCentre::frmCommandCentre()
 {
     setCaption(QStringLiteral("Command Center"));
     setDesignSize(10050, 6000);
+    gradient.Move(0, 0, 10050, 6000);
     pnlHeader.Move(0, 0, 10050, 375);
     pnlHeader.setCaption(QStringLiteral("Command Center"));
     pnlHeader.setFont(QStringLiteral("Arial"), 9.75, true);
@@ -66,6 +67,7 @@ void frmCommandCentre::buildPanels()
     SSCommand &focusSink = cmdCommand.add(0, pnlDiag(5));
     focusSink.Move(-500, 720, 30, 60);
     focusSink.setPurpose(QStringLiteral("Command Center"));
+    focusSink.setTabStop(false); // nobody would see where the focus is
 }
 
 void frmCommandCentre::buildButtons()

@@ -80,12 +80,24 @@ constexpr ConnectorRow Connectors[] = {
 // clang-format on
 } // namespace
 
-std::span<const TabRow> tabs() { return Tabs; }
+std::span<const TabRow> tabs()
+{
+    return Tabs;
+}
 
-std::span<const FrameRow> frames() { return Frames; }
+std::span<const FrameRow> frames()
+{
+    return Frames;
+}
 
-std::span<const ButtonRow> buttons() { return Buttons; }
+std::span<const ButtonRow> buttons()
+{
+    return Buttons;
+}
 
-std::span<const ConnectorRow> connectors() { return Connectors; }
+std::span<const ConnectorRow> connectors()
+{
+    return Connectors;
+}
 
 } // namespace orvane::diagram

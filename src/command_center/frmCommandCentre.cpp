@@ -105,12 +105,14 @@ void frmCommandCentre::cmdImp_Click(int index)
     OpenGuide(cmdImp(index).Caption(), cmdImp(index).Tag());
 }
 
+// After the notice the focus rests. A window that opens takes it along, and Activate puts it to rest on the way back.
 void frmCommandCentre::cmdAct_Click(int index)
 {
     constexpr int EmergencyPlanIdeas = 7;
     const SSCommand &button = cmdAct(index);
     if (toNumber(button.Tag()) == NoticeTag) {
         ShowTourStep(QStringLiteral("900"));
+        cmdCommand(0).SetFocus();
         return;
     }
     OpenTools(button.Caption(), button.Tag());
@@ -120,6 +122,7 @@ void frmCommandCentre::cmdAct_Click(int index)
 void frmCommandCentre::cmdEnv_Click(int index)
 {
     ShowTourStep(cmdEnv(index).Tag());
+    cmdCommand(0).SetFocus();
 }
 
 // Only element 0 exists, and its press means nothing.

@@ -14,6 +14,8 @@ namespace
 {
 constexpr int FirstStepSection = 105;
 constexpr int LeftButton = 1;
+constexpr int FirstMarker = 2; // the caret right behind it
+constexpr int Actions = 7;
 constexpr float KeyWordStrip = 2000; // twips from the left in which the key words stand
 
 QString noActionYet()
@@ -21,13 +23,30 @@ QString noActionYet()
     return QStringLiteral("orvane Advice");
 }
 
+struct Action {
+    int number = 0;
+    QString word;
+};
+
 // The key word behind the marker, a dot and a tab, whose dot is character i, counted from 1.
 QString wordBehind(const QString &text, qsizetype i)
 {
     const qsizetype tab = text.indexOf(u'\t', i) + 1;
     const qsizetype blank = text.indexOf(u' ', i + 2) + 1;
-    if (tab == 0 || blank < i + 2) throw RunTimeError(InvalidProcedureCall, QStringLiteral("No word stands there."));
+    if (tab == 0 || blank == 0) throw RunTimeError(InvalidProcedureCall, QStringLiteral("No word stands there."));
     return text.mid(tab, blank - i - 2);
+}
+
+// The number of markers up to the caret says which action is meant, whether or not the word under it is bold.
+Action actionAt(const QString &text, qsizetype caret)
+{
+    Action action;
+    for (qsizetype i = 1; i <= caret && i < text.size(); ++i) {
+        if (text.at(i - 1) != u'.' || text.at(i) != u'\t') continue;
+        ++action.number;
+        resumeNext([&] { action.word = wordBehind(text, i); });
+    }
+    return action;
 }
 } // namespace
 
@@ -53,27 +72,15 @@ void frmIGSteps::rtfData_MouseUp(int button, int, float, float)
     if (button != LeftButton || !mnuNav.Tools(QStringLiteral("Implementation")).Checked()) return;
     resumeNext([this] { showPane(true); });
     resumeNext([this] { Form_Resize(); });
-    resumeNext([this] { showAdviceAtCaret(); });
-}
-
-// The number of markers up to the caret says which action is meant, whether or not the word under it is bold.
-void frmIGSteps::showAdviceAtCaret()
-{
-    constexpr int FirstMarker = 2;
-    constexpr int Actions = 7;
-    if (rtfData.SelStart() < FirstMarker) rtfData.setSelStart(FirstMarker);
-    const QString text = rtfData.Text();
-    const int caret = rtfData.SelStart();
-    int count = 0;
-    QString word;
-    for (qsizetype i = 1; i <= caret; ++i) {
-        if (text.mid(i - 1, 2) != QStringLiteral(".\t")) continue;
-        ++count;
-        resumeNext([&] { word = wordBehind(text, i); });
-    }
-    if (count >= 1 && count <= Actions) rtfTips.setTextRTF(pages::advice(count));
-    ssPanel.setCaption(word);
-    ssPanel.setCaption(word.remove(u','));
+    resumeNext([this] {
+        if (rtfData.SelStart() < FirstMarker) rtfData.setSelStart(FirstMarker);
+    });
+    Action action = actionAt(rtfData.Text(), rtfData.SelStart());
+    resumeNext([&] {
+        if (action.number >= 1 && action.number <= Actions) rtfTips.setTextRTF(pages::advice(action.number));
+    });
+    resumeNext([&] { ssPanel.setCaption(action.word); });
+    resumeNext([&] { ssPanel.setCaption(action.word.remove(u',')); });
 }
 
 void frmIGSteps::rtfData_MouseMove(int, int, float x, float)

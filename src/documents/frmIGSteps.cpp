@@ -5,12 +5,10 @@
 #include "layouts/frmIGSteps_mnuLinks.h"
 #include "layouts/frmIGSteps_mnuNav.h"
 #include "platform/forms/DefaultInstance.h"
-#include "platform/forms/Wiring.h"
 #include "platform/system/Number.h"
 #include "printing/frmPrint.h"
 #include "shell/ModulePrefixes.h"
 #include "shell/SharedState.h"
-#include "shell/mdiMain.h"
 #include "shell/modFunctions.h"
 #include "tour/modDemo.h"
 

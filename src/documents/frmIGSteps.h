@@ -55,7 +55,6 @@ private:
     void showImplementation();
     void showTips();
     void showPane(bool visible);
-    void showAdviceAtCaret();
     void layOut();
     double roomForText() const;
 

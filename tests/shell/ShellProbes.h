@@ -113,6 +113,18 @@ protected:
     void Form_Unload(bool &) override { whileUnloading(); }
 };
 
+// A tool of no bar's layout.
+struct LooseTool {
+    explicit LooseTool(const QString &name, int tag = 0, const QString &caption = QStringLiteral("caption"))
+        : tool(Default<mdiMain>().mnuMain, 1, name)
+    {
+        tool.setCaption(caption);
+        tool.setToolTag(tag);
+    }
+
+    Tool tool;
+};
+
 // The names of the loaded windows, in the order of loading.
 inline QStringList loadedNames()
 {

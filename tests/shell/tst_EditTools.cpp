@@ -114,16 +114,16 @@ TextWindow &tst_EditTools::openTexts() const
 
 void tst_EditTools::format(const QString &name) const
 {
-    Tool tool(frame().mnuMain, 1, name);
-    frame().FormatSelection(tool);
+    LooseTool loose(name);
+    frame().FormatSelection(loose.tool);
 }
 
 void tst_EditTools::chooseFont(const QString &name, const QStringList &entries, int index) const
 {
-    Tool tool(frame().mnuMain, 1, name);
-    tool.setList(entries);
-    tool.setListIndex(index);
-    frame().FontSelection(tool);
+    LooseTool loose(name);
+    loose.tool.setList(entries);
+    loose.tool.setListIndex(index);
+    frame().FontSelection(loose.tool);
 }
 
 void tst_EditTools::withTheDiagramActiveCutAndCopyAreDisabled_data()
@@ -251,10 +251,8 @@ void tst_EditTools::anOpeningWindowFollowsTheClipboard()
     QFETCH(int, tag);
     QVERIFY(!enabled(u"miPaste"_s));
     QApplication::clipboard()->setText(u"text"_s);
-    Tool tool(frame().mnuMain, 1, u"tool"_s);
-    tool.setCaption(u"title"_s);
-    tool.setToolTag(tag);
-    OpenFromTool(tool);
+    LooseTool loose(u"tool"_s, tag, u"title"_s);
+    OpenFromTool(loose.tool);
     QVERIFY(enabled(u"miPaste"_s));
 }
 

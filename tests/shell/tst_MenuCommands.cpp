@@ -7,9 +7,6 @@
 #include "shell/modFunctions.h"
 #include "support/RunningSystem.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QMenu>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -19,11 +16,6 @@ using namespace orvane::test;
 namespace
 {
 const QString GuideTag = QStringLiteral("[Implementation Guide] - Using this Guide");
-
-QString clipboard()
-{
-    return QApplication::clipboard()->text();
-}
 } // namespace
 
 class tst_MenuCommands : public QObject
@@ -53,16 +45,6 @@ private slots:
     void whatComesAfterACommand_data();
     void whatComesAfterACommand();
 
-    void editCommandsWorkInBothKindsOfRichText_data();
-    void editCommandsWorkInBothKindsOfRichText();
-    void undoTakesBackWhatWasTyped_data();
-    void undoTakesBackWhatWasTyped();
-    void editCommandsLeavePlainTextBoxesAlone_data();
-    void editCommandsLeavePlainTextBoxesAlone();
-    void editCommandsLeaveTheDiagramAlone_data();
-    void editCommandsLeaveTheDiagramAlone();
-    void copyWorksInThePageOfTheGuide();
-
     void withoutHelpFileTheUserIsTold_data();
     void withoutHelpFileTheUserIsTold();
     void withoutHelpFileNoStepIsShown();
@@ -71,12 +53,6 @@ private slots:
     void aFailingReportDoesNotStopTheHelp();
 
     void theForwarderReportsANumber();
-
-    void exitByKeys();
-    void aDocumentByKeysThroughThreeMenus();
-    void aWindowByItsNumberKey();
-    void selectAllByKeysReachesTheTextAtWork();
-    void copyByTheMouseReachesTheTextAtWork();
 
 private:
     mdiMain &frame() const { return m_system->frame(); }
@@ -88,7 +64,6 @@ private:
     void clickLoose(const QString &name) const;
     void openGuide() const { m_system->click(m_system->diagram().cmdImp(1)); }
     void pressBehindTheNotice(const QString &band, const QString &tool);
-    QMenu *openMenu(Qt::Key accessKey) const;
 
     std::optional<RunningSystem> m_system;
 };
@@ -101,16 +76,14 @@ void tst_MenuCommands::init()
 
 void tst_MenuCommands::cleanup()
 {
-    while (QWidget *popup = QApplication::activePopupWidget())
-        popup->close();
     m_system.reset();
 }
 
 // A tool that no band shows.
 void tst_MenuCommands::clickLoose(const QString &name) const
 {
-    Tool tool(frame().mnuMain, 1, name);
-    frame().mnuMain_Click(tool);
+    LooseTool loose(name);
+    frame().mnuMain_Click(loose.tool);
 }
 
 void tst_MenuCommands::pressBehindTheNotice(const QString &band, const QString &tool)
@@ -120,12 +93,6 @@ void tst_MenuCommands::pressBehindTheNotice(const QString &band, const QString &
                              QCOMPARE(countWindows(u"frmError"_s), 1);
                              m_system->host.advance(2000);
                          });
-}
-
-QMenu *tst_MenuCommands::openMenu(Qt::Key accessKey) const
-{
-    QTest::keyClick(&frame().shell(), accessKey, Qt::AltModifier);
-    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
 void tst_MenuCommands::aToolIsReportedBeforeItOpensItsWindow()
@@ -298,115 +265,6 @@ void tst_MenuCommands::whatComesAfterACommand()
     QCOMPARE(m_system->active() == &window, goesOn);
 }
 
-void tst_MenuCommands::editCommandsWorkInBothKindsOfRichText_data()
-{
-    QTest::addColumn<bool>("editing");
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("copied");
-    QTest::addColumn<int>("selected");
-    for (const bool editing : {false, true}) {
-        const char *kind = editing ? "zelRich" : "RichTextBox";
-        QTest::addRow("cut, %s", kind) << editing << u"miCut"_s << u" two"_s << u"one"_s << 0;
-        QTest::addRow("copy, %s", kind) << editing << u"miCopy"_s << u"one two"_s << u"one"_s << 3;
-        QTest::addRow("paste, %s", kind) << editing << u"miPaste"_s << u"new two"_s << u"new"_s << 0;
-        QTest::addRow("all, %s", kind) << editing << u"miAll"_s << u"one two"_s << u"new"_s << 7;
-        QTest::addRow("clear, %s", kind) << editing << u"clear"_s << u" two"_s << u"new"_s << 0;
-    }
-}
-
-void tst_MenuCommands::editCommandsWorkInBothKindsOfRichText()
-{
-    QFETCH(bool, editing);
-    QFETCH(QString, command);
-    auto &window = *new TextWindow;
-    window.Show();
-    RichTextBox &box = editing ? window.zel : window.rich;
-    giveFocus(box);
-    box.setSelLength(3);
-    QApplication::clipboard()->setText(u"new"_s);
-    clickLoose(command);
-    QTEST(box.Text(), "text");
-    QTEST(clipboard(), "copied");
-    QTEST(box.SelLength(), "selected");
-}
-
-void tst_MenuCommands::undoTakesBackWhatWasTyped_data()
-{
-    QTest::addColumn<QString>("control");
-    for (const auto &control : {u"rich"_s, u"zel"_s, u"plain"_s})
-        QTest::addRow("%s", qPrintable(control)) << control;
-}
-
-void tst_MenuCommands::undoTakesBackWhatWasTyped()
-{
-    QFETCH(QString, control);
-    auto &window = *new TextWindow;
-    window.Show();
-    giveFocus(*window.control(control));
-    const auto texts = [&] { return QStringList{window.rich.Text(), window.zel.Text(), window.plain.Text()}; };
-    const QStringList before = texts();
-    QTest::keyClicks(QApplication::focusWidget(), u"x"_s);
-    QVERIFY(texts() != before);
-    press(u"mnuEdit"_s, u"miUndo"_s);
-    QCOMPARE(texts(), before);
-}
-
-void tst_MenuCommands::editCommandsLeavePlainTextBoxesAlone_data()
-{
-    QTest::addColumn<QString>("command");
-    for (const auto &command : {u"miCut"_s, u"miCopy"_s, u"miPaste"_s, u"miAll"_s, u"clear"_s})
-        QTest::addRow("%s", qPrintable(command)) << command;
-}
-
-void tst_MenuCommands::editCommandsLeavePlainTextBoxesAlone()
-{
-    QFETCH(QString, command);
-    auto &window = *new TextWindow;
-    window.Show();
-    giveFocus(window.plain);
-    QTest::keyClick(&window.plain.widget(), Qt::Key_Home);
-    QTest::keyClick(&window.plain.widget(), Qt::Key_Right, Qt::ShiftModifier);
-    QApplication::clipboard()->setText(u"new"_s);
-    clickLoose(command);
-    QCOMPARE(window.plain.Text(), u"one two"_s);
-    QCOMPARE(clipboard(), u"new"_s);
-    QTest::keyClicks(&window.plain.widget(), u"O"_s);
-    QCOMPARE(window.plain.Text(), u"One two"_s);
-}
-
-void tst_MenuCommands::editCommandsLeaveTheDiagramAlone_data()
-{
-    editCommandsLeavePlainTextBoxesAlone_data();
-}
-
-// The text keeps its selection behind the diagram, which has no text of its own.
-void tst_MenuCommands::editCommandsLeaveTheDiagramAlone()
-{
-    QFETCH(QString, command);
-    auto &window = *new TextWindow;
-    window.Show();
-    giveFocus(window.rich);
-    window.rich.setSelLength(3);
-    m_system->diagram().SetFocus();
-    QApplication::clipboard()->setText(u"new"_s);
-    clickLoose(command);
-    QCOMPARE(window.rich.Text(), u"one two"_s);
-    QCOMPARE(window.rich.SelLength(), 3);
-    QCOMPARE(clipboard(), u"new"_s);
-}
-
-void tst_MenuCommands::copyWorksInThePageOfTheGuide()
-{
-    openGuide();
-    auto *page = static_cast<RichTextBox *>(m_system->active()->control(u"rtfData"_s));
-    giveFocus(*page);
-    press(u"mnuEdit"_s, u"miAll"_s);
-    QCOMPARE(page->SelLength(), page->Text().size());
-    press(u"mnuEdit"_s, u"miCopy"_s);
-    QCOMPARE(clipboard(), page->Text());
-}
-
 void tst_MenuCommands::withoutHelpFileTheUserIsTold_data()
 {
     QTest::addColumn<QString>("tool");
@@ -457,11 +315,10 @@ void tst_MenuCommands::searchShowsNoStepOfItsOwn()
 
 void tst_MenuCommands::aFailingReportDoesNotStopTheHelp()
 {
-    Tool contents(frame().mnuMain, 1, u"miHContents"_s);
-    contents.setToolTag(900); // the notice is all that is reported, whatever the console holds
+    LooseTool contents(u"miHContents"_s, 900); // the notice is all that is reported, whatever the console holds
     console().setTag(u"no number"_s);
     m_system->host.expectAnyMessage();
-    m_system->whileModal([&] { guarded([&] { frame().mnuMain_Click(contents); }); },
+    m_system->whileModal([&] { guarded([&] { frame().mnuMain_Click(contents.tool); }); },
                          [&] { m_system->host.advance(2000); });
     QVERIFY(m_system->host.messages().at(0).text.contains(u"Orvane.hlp"_s));
     QVERIFY(!m_system->host.exitCode());
@@ -473,68 +330,6 @@ void tst_MenuCommands::theForwarderReportsANumber()
     QCOMPARE(console().Tag(), u"106"_s);
     frame().ShowTourStepNumber(-7);
     QCOMPARE(console().Tag(), u"-7"_s);
-}
-
-void tst_MenuCommands::exitByKeys()
-{
-    giveFocus(m_system->diagram().cmdImp(1));
-    QMenu *file = openMenu(Qt::Key_F);
-    QVERIFY(file);
-    QTest::keyClick(file, Qt::Key_X);
-    QCOMPARE(console().Tag(), u"603"_s);
-    QVERIFY(frame().Visible());
-}
-
-void tst_MenuCommands::aDocumentByKeysThroughThreeMenus()
-{
-    giveFocus(m_system->diagram().cmdImp(1));
-    QVERIFY(openMenu(Qt::Key_C));
-    const auto key = [](Qt::Key pressed) { QTest::keyClick(QApplication::activePopupWidget(), pressed); };
-    for (int i = 0; i < 4; ++i)
-        key(Qt::Key_Down); // to Records, from the first entry
-    key(Qt::Key_Right);
-    key(Qt::Key_Right); // Core Records
-    for (int i = 0; i < 10; ++i)
-        key(Qt::Key_Down);
-    key(Qt::Key_Return);
-    QTRY_COMPARE(m_system->active()->Tag(), u"[Records] - Emergency Plan"_s);
-    QVERIFY(!QApplication::activePopupWidget());
-}
-
-void tst_MenuCommands::aWindowByItsNumberKey()
-{
-    openGuide();
-    auto *page = m_system->active()->control(u"rtfData"_s);
-    giveFocus(*page);
-    QMenu *windows = openMenu(Qt::Key_W);
-    QVERIFY(windows);
-    QTest::keyClick(windows, Qt::Key_1);
-    QCOMPARE(m_system->active(), &m_system->diagram());
-}
-
-void tst_MenuCommands::selectAllByKeysReachesTheTextAtWork()
-{
-    openGuide();
-    auto *page = static_cast<RichTextBox *>(m_system->active()->control(u"rtfData"_s));
-    giveFocus(*page);
-    QMenu *edit = openMenu(Qt::Key_E);
-    QVERIFY(edit);
-    QTest::keyClick(edit, Qt::Key_A);
-    QCOMPARE(page->SelLength(), page->Text().size());
-}
-
-void tst_MenuCommands::copyByTheMouseReachesTheTextAtWork()
-{
-    openGuide();
-    auto *page = static_cast<RichTextBox *>(m_system->active()->control(u"rtfData"_s));
-    giveFocus(*page);
-    page->setSelLength(10);
-    QMenu *edit = openMenu(Qt::Key_E);
-    QVERIFY(edit);
-    for (QAction *action : edit->actions())
-        if (action->objectName() == u"miCopy")
-            QTest::mouseClick(edit, Qt::LeftButton, {}, edit->actionGeometry(action).center());
-    QCOMPARE(clipboard(), page->Text().left(10));
 }
 
 QTEST_MAIN(tst_MenuCommands)

@@ -1,6 +1,5 @@
-// How module windows are opened, and brought forward from the Window menu and from the diagram.
+// How module windows are opened, and what they are handed over.
 #include "printing/frmPrint.h"
-#include "shell/ModulePrefixes.h"
 #include "shell/ShellProbes.h"
 #include "shell/modFunctions.h"
 #include "support/RunningSystem.h"
@@ -37,23 +36,6 @@ Form &manual()
     return *windowByTag(ManualTag);
 }
 
-void chooseInWindowMenu(const QString &name)
-{
-    ActiveBar &menu = Default<mdiMain>().mnuMain;
-    menu.press(menu.Bands(u"mnuWindow"_s).Tools(name));
-}
-
-// A tool of no bar's layout.
-struct LooseTool {
-    explicit LooseTool(const QString &name, int tag = 0, const QString &caption = QStringLiteral("caption"))
-        : tool(Default<mdiMain>().mnuMain, 1, name)
-    {
-        tool.setCaption(caption);
-        tool.setToolTag(tag);
-    }
-
-    Tool tool;
-};
 } // namespace
 
 class tst_OpenWindows : public QObject
@@ -84,24 +66,6 @@ private slots:
     void aToolOfNoModuleOpensNothing();
     void aToolOfNoWindowDoesNothingAtAll_data();
     void aToolOfNoWindowDoesNothingAtAll();
-    void aToolFindsItsWindow_data();
-    void aToolFindsItsWindow();
-    void theFirstOfTwoMatchesComesForward();
-
-    void theWindowMenuMaximisesAMinimisedWindow();
-    void theDiagramRestoresAMinimisedWindowToNormal();
-    void theWindowMenuLaysOutTheWindowItBringsForward();
-    void theWindowMenuDoesNotLayOutTheDiagram();
-    void theDiagramsReopeningLaysNothingOut();
-    void aWindowTakesTheSizeOfTheMaximisedOne_data();
-    void aWindowTakesTheSizeOfTheMaximisedOne();
-    void aWindowKeepsItsSizeBehindANormalOne_data();
-    void aWindowKeepsItsSizeBehindANormalOne();
-    void choosingTheMaximisedWindowItselfEndsWithoutAWord();
-    void reopeningTheMaximisedWindowGoesPastItsRefusal();
-    void aWindowThatRefusesTheFocusIsLeftWithoutAWord();
-    void aWindowThatRefusesTheFocusIsOpenedASecondTime();
-    void noWindowOfThatTagIsReportedFalse();
 
     void bringingForwardHoldsTheDiagramsLayout();
     void openingHoldsTheDiagramsLayout();
@@ -314,198 +278,6 @@ void tst_OpenWindows::aToolOfNoWindowDoesNothingAtAll()
     QCOMPARE(m_system->active(), &guide());
     QCOMPARE(guide().WindowState(), int(Maximized));
     QCOMPARE(m_system->console().Tag(), step);
-}
-
-void tst_OpenWindows::aToolFindsItsWindow_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("caption");
-    QTest::addColumn<int>("tag");
-    for (const int tag : {0, 6, 900}) {
-        QTest::addRow("caption by name, %d", tag) << u"Using this Guide"_s << u"x"_s << tag;
-        QTest::addRow("caption by caption, %d", tag) << u"x"_s << u"Using this Guide"_s << tag;
-        QTest::addRow("tag by name, %d", tag) << GuideTag << u"x"_s << tag;
-    }
-}
-
-void tst_OpenWindows::aToolFindsItsWindow()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, caption);
-    QFETCH(int, tag);
-    openGuide();
-    m_system->diagram().SetFocus();
-    LooseTool loose(name, tag, caption);
-    OpenFromTool(loose.tool);
-    QCOMPARE(m_system->active(), &guide());
-}
-
-void tst_OpenWindows::theFirstOfTwoMatchesComesForward()
-{
-    OpenTools(u"Emergency Plan"_s, u"406"_s);
-    OpenRecords(u"Emergency Plan"_s, u"511"_s);
-    LooseTool loose(u"Emergency Plan"_s);
-    OpenFromTool(loose.tool);
-    QCOMPARE(m_system->active()->Tag(), u"[Action Tools] - Emergency Plan"_s);
-}
-
-void tst_OpenWindows::theWindowMenuMaximisesAMinimisedWindow()
-{
-    openGuide();
-    guide().setWindowState(Minimized);
-    m_system->diagram().SetFocus();
-    QCOMPARE(guide().WindowState(), int(Minimized));
-    chooseInWindowMenu(GuideTag);
-    QCOMPARE(guide().WindowState(), int(Maximized));
-    QCOMPARE(m_system->active(), &guide());
-}
-
-void tst_OpenWindows::theDiagramRestoresAMinimisedWindowToNormal()
-{
-    openGuide();
-    guide().setWindowState(Minimized);
-    m_system->diagram().SetFocus();
-    openGuide();
-    QCOMPARE(guide().WindowState(), int(Normal));
-    QCOMPARE(m_system->active(), &guide());
-    QCOMPARE(countWindows(u"frmIGSteps"_s), 1);
-}
-
-void tst_OpenWindows::theWindowMenuLaysOutTheWindowItBringsForward()
-{
-    openGuide();
-    m_system->diagram().SetFocus();
-    int layouts = 0;
-    countCalls(guide(), u"Form_Resize"_s, layouts);
-    chooseInWindowMenu(GuideTag);
-    QCOMPARE(layouts, 1);
-}
-
-void tst_OpenWindows::theWindowMenuDoesNotLayOutTheDiagram()
-{
-    openGuide();
-    int layouts = 0;
-    countCalls(m_system->diagram(), u"Form_Resize"_s, layouts);
-    chooseInWindowMenu(u"Command Center"_s);
-    QCOMPARE(m_system->active(), &m_system->diagram());
-    QCOMPARE(layouts, 0);
-}
-
-void tst_OpenWindows::theDiagramsReopeningLaysNothingOut()
-{
-    openGuide();
-    m_system->diagram().SetFocus();
-    int layouts = 0;
-    countCalls(guide(), u"Form_Resize"_s, layouts);
-    openGuide();
-    QCOMPARE(m_system->active(), &guide());
-    QCOMPARE(layouts, 0);
-}
-
-void tst_OpenWindows::aWindowTakesTheSizeOfTheMaximisedOne_data()
-{
-    QTest::addColumn<bool>("fromMenu");
-    QTest::newRow("from the Window menu") << true;
-    QTest::newRow("opened again") << false;
-}
-
-void tst_OpenWindows::aWindowTakesTheSizeOfTheMaximisedOne()
-{
-    QFETCH(bool, fromMenu);
-    openGuide();
-    m_system->diagram().SetFocus();
-    QCOMPARE(guide().WindowState(), int(Normal));
-    const double width = m_system->diagram().Width();
-    const double height = m_system->diagram().Height();
-    QVERIFY(guide().Width() < width);
-    if (fromMenu)
-        chooseInWindowMenu(GuideTag);
-    else
-        openGuide();
-    guide().setWindowState(Normal);
-    QCOMPARE(guide().Width(), width);
-    QCOMPARE(guide().Height(), height);
-}
-
-void tst_OpenWindows::aWindowKeepsItsSizeBehindANormalOne_data()
-{
-    aWindowTakesTheSizeOfTheMaximisedOne_data();
-}
-
-void tst_OpenWindows::aWindowKeepsItsSizeBehindANormalOne()
-{
-    QFETCH(bool, fromMenu);
-    openGuide();
-    OpenManual(u"Scope"_s, u"219"_s);
-    manual().setWindowState(Normal);
-    guide().setWidth(6000);
-    guide().setHeight(4500);
-    if (fromMenu)
-        chooseInWindowMenu(GuideTag);
-    else
-        OpenGuide(u"Using this Guide"_s, u"102"_s);
-    QCOMPARE(m_system->active(), &guide());
-    QCOMPARE(guide().WindowState(), int(Normal));
-    QCOMPARE(guide().Width(), 6000.0);
-    QCOMPARE(guide().Height(), 4500.0);
-}
-
-// It can't be sized, so nothing after that is done: not even its layout.
-void tst_OpenWindows::choosingTheMaximisedWindowItselfEndsWithoutAWord()
-{
-    openGuide();
-    int layouts = 0;
-    countCalls(guide(), u"Form_Resize"_s, layouts);
-    chooseInWindowMenu(GuideTag);
-    QCOMPARE(layouts, 0);
-    QCOMPARE(m_system->active(), &guide());
-    QCOMPARE(guide().WindowState(), int(Maximized));
-    QVERIFY(m_system->host.messages().empty());
-}
-
-void tst_OpenWindows::reopeningTheMaximisedWindowGoesPastItsRefusal()
-{
-    openGuide();
-    QVERIFY_THROWS_EXCEPTION(RunTimeError, guide().setWidth(6000));
-    Shared().DiagramLayoutHeld = False;
-    QVERIFY(ActivateOpenWindow(GuideTag) == True);
-    QVERIFY(Shared().DiagramLayoutHeld == True);
-    QCOMPARE(m_system->active(), &guide());
-    QCOMPARE(guide().WindowState(), int(Maximized));
-}
-
-void tst_OpenWindows::aWindowThatRefusesTheFocusIsLeftWithoutAWord()
-{
-    auto &probe = *new ProbeWindow(u"probe"_s);
-    probe.Show();
-    probe.refusesFocus = true;
-    probe.setCaption(u"the probe"_s);
-    int layouts = 0;
-    countCalls(probe, u"Form_Resize"_s, layouts);
-    LooseTool loose(u"the probe"_s);
-    OpenFromTool(loose.tool);
-    QCOMPARE(layouts, 0);
-    QVERIFY(m_system->host.messages().empty());
-}
-
-void tst_OpenWindows::aWindowThatRefusesTheFocusIsOpenedASecondTime()
-{
-    auto &probe = *new ProbeWindow(u"probe"_s);
-    probe.Show();
-    probe.refusesFocus = true;
-    probe.setTag(GuideTag);
-    QVERIFY(ActivateOpenWindow(GuideTag) == False);
-    OpenGuide(u"Using this Guide"_s, u"102"_s);
-    QCOMPARE(countWindows(u"frmIGSteps"_s), 1);
-    QCOMPARE(m_system->active()->Tag(), GuideTag);
-}
-
-void tst_OpenWindows::noWindowOfThatTagIsReportedFalse()
-{
-    openGuide();
-    QVERIFY(ActivateOpenWindow(u"Using this Guide"_s) == False);
-    QVERIFY(ActivateOpenWindow(u"[implementation guide] - Using this Guide"_s) == False);
-    QVERIFY(ActivateOpenWindow(GuideTag) == True);
 }
 
 void tst_OpenWindows::bringingForwardHoldsTheDiagramsLayout()

@@ -37,9 +37,9 @@ inline bool clickThrough(QMenu &first, const QStringList &path)
 {
     QMenu *menu = &first;
     for (const QString &name : path) {
-        QAction *entry = menu ? entryOf(*menu, name) : nullptr;
-        const bool open = entry && QTest::qWaitFor([menu] { return menu->isVisible(); });
-        if (!open || !entry->isEnabled()) {
+        const bool open = menu && QTest::qWaitFor([menu] { return menu->isVisible(); }); // it is filled as it opens
+        QAction *entry = open ? entryOf(*menu, name) : nullptr;
+        if (!entry || !entry->isEnabled()) {
             first.close();
             return false;
         }

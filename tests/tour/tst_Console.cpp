@@ -6,7 +6,9 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextEdit>
 
 using namespace Qt::Literals::StringLiterals;
@@ -43,6 +45,7 @@ private slots:
     void everyControlStandsInItsPlace();
     void theAuthorsStripAloneLiesBelowTheEdge();
     void theHeadingIsBold();
+    void aLongHeadingStaysOnOneLine();
     void theGroundsAreThoseOfToolTips();
     void thePictureBoxLiesBehindTheOthers();
     void theDealersLinesLieOverTheBody();
@@ -168,6 +171,17 @@ void tst_Console::theHeadingIsBold()
     console().Header.setText(u"Heading"_s);
     const QTextDocument &text = *static_cast<QTextEdit &>(console().Header.widget()).document();
     QVERIFY(text.defaultFont().bold());
+}
+
+void tst_Console::aLongHeadingStaysOnOneLine()
+{
+    m_system->start();
+    console().Header.setText(QString(40, u'a') + u' ' + QString(40, u'b'));
+    const auto &edit = static_cast<QTextEdit &>(console().Header.widget());
+    const QTextBlock line = edit.document()->firstBlock();
+    QTRY_COMPARE(line.layout()->lineCount(), 1);
+    QVERIFY(!edit.verticalScrollBar()->isVisible());
+    QVERIFY(!edit.horizontalScrollBar()->isVisible());
 }
 
 void tst_Console::theGroundsAreThoseOfToolTips()

@@ -13,6 +13,7 @@ namespace
 {
 constexpr double Radius = 5;
 constexpr int Margin = 3;
+constexpr int MarginAbove = 2; // and below: three lines need the height
 constexpr int CornerSize = 10;
 constexpr int TopMargin = 5;
 constexpr int TopHeight = 36;
@@ -61,7 +62,7 @@ void CaptionButton::paintCard(QPainter &painter) const
 
 QRect CaptionButton::paintPicture(QPainter &painter)
 {
-    const QRect inside = rect().adjusted(Margin, Margin, -Margin, -Margin);
+    const QRect inside = rect().adjusted(Margin, MarginAbove, -Margin, -MarginAbove);
     if (!m_picture.isSet()) return inside;
     if (m_place == TopPicture) {
         m_picture.paint(painter, QRectF(inside.left(), TopMargin, inside.width(), TopHeight));

@@ -48,8 +48,10 @@ void Label::setCentered()
 
 bool Label::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == &widget() && event->type() == QEvent::MouseButtonRelease && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
-        emit Click();
+    if (watched == &widget() && event->type() == QEvent::MouseButtonRelease) {
+        const auto &mouse = static_cast<QMouseEvent &>(*event);
+        if (mouse.button() == Qt::LeftButton && m_label.rect().contains(mouse.position().toPoint())) emit Click();
+    }
     return Control::eventFilter(watched, event);
 }
 

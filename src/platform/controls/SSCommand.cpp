@@ -54,4 +54,9 @@ void SSCommand::setDropsMenu(bool drops)
     m_button.setDropsMenu(drops);
 }
 
+void SSCommand::setTabStop(bool stop)
+{
+    m_button.setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 } // namespace orvane

@@ -22,6 +22,7 @@ public:
     bool FontBold() const;
     void setPicture(const QString &name);
     void setDropsMenu(bool drops); // shows it, and lets Down press the button
+    void setTabStop(bool stop);    // whether the Tab key stops at it; it does at first
 
 signals:
     void Click();

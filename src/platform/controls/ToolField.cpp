@@ -41,9 +41,9 @@ ToolField::ToolField(ActiveBar &bar, const std::shared_ptr<Tool> &tool, QWidget 
     row->setContentsMargins(Gap, 0, Gap, 0);
     row->setSpacing(Gap);
     row->addWidget(m_label);
-    row->addWidget(&focusTarget());
-    m_label->setBuddy(&focusTarget());
-    focusTarget().installEventFilter(this); // a combo box hands keys on to its line edit
+    row->addWidget(m_field);
+    m_label->setBuddy(m_field);
+    m_field->installEventFilter(this); // a combo box hands keys on to its line edit
     connect(m_edit, &QLineEdit::textEdited, this, [this](const QString &text) {
         if (const auto edited = m_tool.lock()) edited->setText(text);
     });
@@ -59,24 +59,21 @@ void ToolField::makeField(const Tool &tool)
         m_combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         connect(m_combo, &QComboBox::activated, this, &ToolField::picked);
         m_edit = m_combo->lineEdit();
+        m_field = m_combo;
     } else {
         m_edit = new QLineEdit(this);
+        m_field = m_edit;
     }
-    focusTarget().setObjectName(tool.Name());
-    if (tool.Width() > 0) focusTarget().setFixedWidth(tool.Width());
-}
-
-QWidget &ToolField::focusTarget()
-{
-    return m_combo ? *static_cast<QWidget *>(m_combo) : *m_edit;
+    m_field->setObjectName(tool.Name());
+    if (tool.Width() > 0) m_field->setFixedWidth(tool.Width());
 }
 
 void ToolField::follow(const Tool &tool, bool withAccessKey)
 {
     const QString caption = shownCaption(tool);
     m_label->setText(withAccessKey ? caption : withoutAccessKey(caption));
-    focusTarget().setAccessibleName(spokenName(tool));
-    focusTarget().setAccessibleDescription(tool.ToolTipText());
+    m_field->setAccessibleName(spokenName(tool));
+    m_field->setAccessibleDescription(tool.ToolTipText());
     setToolTip(tool.ToolTipText().isEmpty() ? spokenName(tool) : tool.ToolTipText());
     setEnabled(tool.Enabled());
     if (m_combo) {
@@ -89,8 +86,7 @@ void ToolField::follow(const Tool &tool, bool withAccessKey)
 
 int ToolField::widthFor(bool compact) const
 {
-    const QWidget &field = m_combo ? *static_cast<const QWidget *>(m_combo) : *m_edit;
-    const int fieldWidth = field.minimumWidth() > 0 ? field.minimumWidth() : field.sizeHint().width();
+    const int fieldWidth = m_field->minimumWidth() > 0 ? m_field->minimumWidth() : m_field->sizeHint().width();
     const bool withLabel = !compact && !m_label->text().isEmpty();
     return 2 * Gap + fieldWidth + (withLabel ? m_label->sizeHint().width() + Gap : 0);
 }
@@ -102,7 +98,7 @@ void ToolField::setCompact(bool compact)
 
 bool ToolField::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != &focusTarget() || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+    if (watched != m_field || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
     const auto *key = static_cast<QKeyEvent *>(event);
     const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
     const QPointer<ToolField> self = this;

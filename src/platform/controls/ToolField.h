@@ -24,7 +24,7 @@ public:
     ToolField(ActiveBar &bar, const std::shared_ptr<Tool> &tool, QWidget *parent);
 
     QWidget &widget() override { return *this; }
-    QWidget &focusTarget() override;
+    QWidget &focusTarget() override { return *m_field; }
     void follow(const Tool &tool, bool withAccessKey) override;
     int widthFor(bool compact) const override;
     void setCompact(bool compact) override;
@@ -44,6 +44,7 @@ private:
     QLabel *m_label;
     QComboBox *m_combo = nullptr;
     QLineEdit *m_edit = nullptr; // of the combo, or the field itself
+    QWidget *m_field = nullptr;
 };
 
 } // namespace orvane

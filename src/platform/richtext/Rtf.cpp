@@ -1,7 +1,7 @@
-#include "Rtf.h"
+#include "platform/richtext/Rtf.h"
 
-#include "RtfReader.h"
-#include "RtfWriter.h"
+#include "platform/richtext/RtfReader.h"
+#include "platform/richtext/RtfWriter.h"
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <algorithm>

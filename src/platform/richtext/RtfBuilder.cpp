@@ -1,4 +1,4 @@
-#include "RtfBuilder.h"
+#include "platform/richtext/RtfBuilder.h"
 
 #include <QTextDocument>
 #include <QTextList>
@@ -23,7 +23,7 @@ constexpr qsizetype PieceLength = 1024;
 
 qint64 lineHeight(const RtfCharacters &characters)
 {
-    return characters.size * 800;
+    return qint64(800) * characters.size;
 }
 
 // In a column of about 100 pixels.

@@ -1,7 +1,7 @@
 // Puts paragraphs into a document: gathers the runs of one, then inserts them with formats that are made once.
 #pragma once
 
-#include "RtfRuns.h"
+#include "platform/richtext/RtfRuns.h"
 #include <QHash>
 #include <QTextCursor>
 

@@ -1,5 +1,6 @@
 #include "RtfCodePage.h"
 
+#include "platform/system/CodePage1252.h"
 #include <QStringDecoder>
 #include <algorithm>
 #include <array>
@@ -11,12 +12,6 @@ namespace orvane
 namespace
 {
 
-constexpr std::array<char16_t, 32> WesternHigh{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
-};
-
 constexpr std::array<std::pair<int, int>, 9> CharsetPages{{{2, SymbolCodePage},
                                                            {161, 1253},
                                                            {162, 1254},
@@ -27,37 +22,36 @@ constexpr std::array<std::pair<int, int>, 9> CharsetPages{{{2, SymbolCodePage},
                                                            {204, 1251},
                                                            {238, 1250}}};
 
-constexpr int FirstTablePage = 1250;
-constexpr int LastTablePage = 1258;
+constexpr int FirstPage = 1250;
+constexpr int LastPage = 1258;
+constexpr int PageSize = 256;
+constexpr int SymbolBullet = 0xB7;
 
-using HighHalf = std::array<char16_t, 128>;
+using Page = std::array<QChar, PageSize>;
 
-char16_t westernCharacter(int byte)
+Page pageOf(int codePage)
 {
-    return byte >= 0x80 && byte < 0xA0 ? WesternHigh[size_t(byte - 0x80)] : char16_t(byte);
-}
-
-HighHalf highHalf(int codePage)
-{
-    QStringDecoder decoder(QByteArray("windows-" + QByteArray::number(codePage)).constData());
-    HighHalf half{};
-    for (int byte = 0x80; byte < 0x100; ++byte) {
-        const QString decoded = decoder.isValid() ? QString(decoder(QByteArray(1, char(byte)))) : QString();
-        const bool usable = decoded.size() == 1 && decoded.front() != QChar::ReplacementCharacter;
-        half[size_t(byte - 0x80)] = usable ? decoded.front().unicode() : westernCharacter(byte);
+    QStringDecoder decoder(("windows-" + QByteArray::number(codePage)).constData());
+    Page page;
+    for (int byte = 0; byte < PageSize; ++byte) {
+        const QByteArray bytes(1, static_cast<char>(byte));
+        const QString own = decoder.isValid() && codePage != WesternCodePage ? QString(decoder(bytes)) : QString();
+        const bool usable = own.size() == 1 && own.front() != QChar::ReplacementCharacter;
+        page[static_cast<size_t>(byte)] = usable ? own.front() : CodePage1252::decode(bytes).front();
     }
-    return half;
+    return page;
 }
 
-const HighHalf &cachedHighHalf(int codePage)
+const Page &cachedPage(int codePage)
 {
-    static const auto halves = [] {
-        std::array<HighHalf, LastTablePage - FirstTablePage + 1> all;
-        for (int page = FirstTablePage; page <= LastTablePage; ++page)
-            all[size_t(page - FirstTablePage)] = highHalf(page);
+    static const auto pages = [] {
+        std::array<Page, LastPage - FirstPage + 1> all;
+        for (size_t i = 0; i < all.size(); ++i)
+            all[i] = pageOf(FirstPage + static_cast<int>(i));
         return all;
     }();
-    return halves[size_t(codePage - FirstTablePage)];
+    const bool known = codePage >= FirstPage && codePage <= LastPage;
+    return pages[static_cast<size_t>((known ? codePage : WesternCodePage) - FirstPage)];
 }
 
 } // namespace
@@ -65,24 +59,15 @@ const HighHalf &cachedHighHalf(int codePage)
 int codePageOfCharset(int charset, int documentCodePage)
 {
     const auto *page =
-        std::find_if(CharsetPages.begin(), CharsetPages.end(), [=](auto &p) { return p.first == charset; });
+        std::find_if(CharsetPages.begin(), CharsetPages.end(), [=](const auto &p) { return p.first == charset; });
     return page == CharsetPages.end() ? documentCodePage : page->second;
 }
 
-char16_t characterOfByte(int codePage, int byte)
+QChar characterOfByte(int codePage, int byte)
 {
     // The bullet is the one glyph of the symbol font that documents of ours use.
-    if (codePage == SymbolCodePage && byte == 0xB7) return 0x2022;
-    const bool ownTable = codePage >= FirstTablePage && codePage <= LastTablePage && codePage != WesternCodePage;
-    if (byte < 0x80 || !ownTable) return westernCharacter(byte);
-    return cachedHighHalf(codePage)[size_t(byte - 0x80)];
-}
-
-int westernByte(char16_t character)
-{
-    if (character < 0x80 || (character >= 0xA0 && character < 0x100)) return character;
-    const auto *found = std::find(WesternHigh.begin(), WesternHigh.end(), character);
-    return found == WesternHigh.end() ? -1 : 0x80 + int(found - WesternHigh.begin());
+    if (codePage == SymbolCodePage && byte == SymbolBullet) return QChar(0x2022);
+    return cachedPage(codePage)[static_cast<size_t>(byte)];
 }
 
 } // namespace orvane

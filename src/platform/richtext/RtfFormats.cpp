@@ -1,4 +1,4 @@
-#include "RtfFormats.h"
+#include "platform/richtext/RtfFormats.h"
 
 #include <QFont>
 #include <QHashFunctions>
@@ -161,9 +161,9 @@ QTextCharFormat toCharFormat(const RtfCharacters &characters)
     QTextCharFormat format;
     if (!characters.family.isEmpty()) format.setFontFamilies({characters.family});
     format.setFontPointSize(characters.size / 2.0);
-    if (characters.bold) format.setFontWeight(QFont::Bold);
-    if (characters.italic) format.setFontItalic(true);
-    if (characters.underline) format.setFontUnderline(true);
+    format.setFontWeight(characters.bold ? QFont::Bold : QFont::Normal);
+    format.setFontItalic(characters.italic);
+    format.setFontUnderline(characters.underline);
     if (characters.colour) format.setForeground(QColor(characters.colour));
     if (characters.script == RtfCharacters::SuperScript) format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
     if (characters.script == RtfCharacters::SubScript) format.setVerticalAlignment(QTextCharFormat::AlignSubScript);

@@ -70,6 +70,7 @@ RtfParagraph normalParagraph(RtfParagraph paragraph);
 QTextBlockFormat toBlockFormat(const RtfParagraph &normal);
 RtfParagraph paragraphOf(const QTextBlock &block);
 
+// Leaves nothing but the colour to the document's default font and the view.
 QTextCharFormat toCharFormat(const RtfCharacters &characters);
 // What the format leaves open is the default font's.
 RtfCharacters charactersOf(const QTextCharFormat &format, const RtfCharacters &defaults);

@@ -1,4 +1,4 @@
-#include "RtfGroup.h"
+#include "platform/richtext/RtfGroup.h"
 
 #include <algorithm>
 

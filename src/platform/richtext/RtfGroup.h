@@ -1,9 +1,9 @@
 // What an open group of an RTF document keeps for itself: the brace that closes it brings back what was before.
 #pragma once
 
-#include "RtfCodePage.h"
-#include "RtfFormats.h"
-#include "RtfKeywords.h"
+#include "platform/richtext/RtfCodePage.h"
+#include "platform/richtext/RtfFormats.h"
+#include "platform/richtext/RtfKeywords.h"
 
 namespace orvane
 {

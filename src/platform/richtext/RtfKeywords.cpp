@@ -1,6 +1,6 @@
-#include "RtfKeywords.h"
+#include "platform/richtext/RtfKeywords.h"
 
-#include "RtfFormats.h"
+#include "platform/richtext/RtfFormats.h"
 #include <algorithm>
 #include <array>
 

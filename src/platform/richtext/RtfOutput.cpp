@@ -1,7 +1,7 @@
-#include "RtfOutput.h"
+#include "platform/richtext/RtfOutput.h"
 
-#include "RtfCodePage.h"
-#include "RtfTokenizer.h"
+#include "platform/richtext/RtfCodePage.h"
+#include "platform/richtext/RtfTokenizer.h"
 #include <algorithm>
 
 namespace orvane
@@ -41,11 +41,10 @@ QString symbolFor(char16_t character)
     }
 }
 
-QString encoded(char16_t character)
+QString encoded(QChar character)
 {
-    const int byte = westernByte(character);
-    if (byte < 0) return u"\\u%1?"_s.arg(qint16(character));
-    return u"\\'"_s + QString::number(byte, 16).rightJustified(2, u'0');
+    if (!CodePage1252::hasCode(character)) return u"\\u%1?"_s.arg(static_cast<qint16>(character.unicode()));
+    return u"\\'"_s + QString::fromLatin1(CodePage1252::encode(QStringView(&character, 1)).toHex());
 }
 
 } // namespace

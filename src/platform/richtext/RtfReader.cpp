@@ -1,4 +1,4 @@
-#include "RtfReader.h"
+#include "platform/richtext/RtfReader.h"
 
 #include <QFont>
 #include <QTextDocument>
@@ -132,8 +132,8 @@ void RtfReader::takeText(QStringView text)
 void RtfReader::takeByte(int byte)
 {
     const bool inName = m_group.destination == RtfGroup::Fonts;
-    const char16_t character = characterOfByte(inName ? m_fonts.entryCodePage() : m_group.codePage, byte);
-    if (isRtfTextCharacter(character)) takeCharacter(character);
+    const QChar character = characterOfByte(inName ? m_fonts.entryCodePage() : m_group.codePage, byte);
+    if (isRtfTextCharacter(character.unicode())) takeCharacter(character.unicode());
 }
 
 void RtfReader::takeCharacter(char16_t character)

@@ -2,10 +2,10 @@
 // builder.
 #pragma once
 
-#include "RtfBuilder.h"
-#include "RtfGroup.h"
-#include "RtfTables.h"
-#include "RtfTokenizer.h"
+#include "platform/richtext/RtfBuilder.h"
+#include "platform/richtext/RtfGroup.h"
+#include "platform/richtext/RtfTables.h"
+#include "platform/richtext/RtfTokenizer.h"
 
 namespace orvane
 {

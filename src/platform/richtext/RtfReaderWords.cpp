@@ -1,5 +1,5 @@
 // The part of the reader that acts on control words.
-#include "RtfReader.h"
+#include "platform/richtext/RtfReader.h"
 
 #include <algorithm>
 #include <utility>

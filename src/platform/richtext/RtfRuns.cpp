@@ -1,4 +1,4 @@
-#include "RtfRuns.h"
+#include "platform/richtext/RtfRuns.h"
 
 namespace orvane
 {
@@ -9,6 +9,8 @@ namespace
 // The toolkit's time for a stretch without a blank grows with the square of its length: behind so many characters a
 // line ends. No word of any language is as long.
 constexpr int LongestStretch = 1024;
+// So does its time for the tabs of a paragraph. Those behind so many are blanks.
+constexpr qsizetype MostTabsInText = 256;
 
 bool isBreak(QChar c)
 {
@@ -20,12 +22,20 @@ bool isBreak(QChar c)
 void RtfRuns::add(QStringView text, const RtfCharacters &characters)
 {
     if (m_runs.empty() || !(m_runs.back().characters == characters)) m_runs.push_back({m_text.size(), characters});
+    const qsizetype start = m_text.size();
     for (qsizetype fits = takeStretch(text); fits < text.size(); fits = takeStretch(text)) {
         m_text.append(text.left(fits)).append(QChar::LineSeparator);
         text = text.sliced(fits);
     }
     m_text.append(text);
+    limitTabs(start);
     m_runs.back().end = m_text.size();
+}
+
+void RtfRuns::limitTabs(qsizetype start)
+{
+    for (qsizetype tab = m_text.indexOf(u'\t', start); tab >= 0; tab = m_text.indexOf(u'\t', tab + 1))
+        if (++m_tabs > MostTabsInText) m_text[tab] = u' ';
 }
 
 void RtfRuns::truncate(qsizetype length)
@@ -41,6 +51,7 @@ void RtfRuns::clear()
     m_text.clear();
     m_runs.clear();
     m_stretch = 0;
+    m_tabs = 0;
 }
 
 // How much of the text fits before a line has to end. Surrogates stay together.

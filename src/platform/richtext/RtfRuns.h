@@ -1,7 +1,7 @@
 // The text of one paragraph, cut into runs of one look each.
 #pragma once
 
-#include "RtfFormats.h"
+#include "platform/richtext/RtfFormats.h"
 #include <vector>
 
 namespace orvane
@@ -25,10 +25,12 @@ public:
 
 private:
     qsizetype takeStretch(QStringView text);
+    void limitTabs(qsizetype start);
 
     QString m_text;
     std::vector<Run> m_runs;
     int m_stretch = 0; // characters since the last blank
+    qsizetype m_tabs = 0;
 };
 
 } // namespace orvane

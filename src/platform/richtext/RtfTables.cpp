@@ -1,4 +1,4 @@
-#include "RtfTables.h"
+#include "platform/richtext/RtfTables.h"
 
 #include <algorithm>
 #include <utility>

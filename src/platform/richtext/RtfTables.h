@@ -2,7 +2,7 @@
 // index.
 #pragma once
 
-#include "RtfCodePage.h"
+#include "platform/richtext/RtfCodePage.h"
 #include <QHash>
 #include <QRgb>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "RtfTokenizer.h"
+#include "platform/richtext/RtfTokenizer.h"
 
 #include <QString>
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "RtfWriter.h"
+#include "platform/richtext/RtfWriter.h"
 
 #include <QTextDocument>
 #include <array>

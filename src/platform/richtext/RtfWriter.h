@@ -1,8 +1,8 @@
 // Writes a document as RTF: each paragraph and run only says what differs from what is in force.
 #pragma once
 
-#include "RtfFormats.h"
-#include "RtfOutput.h"
+#include "platform/richtext/RtfFormats.h"
+#include "platform/richtext/RtfOutput.h"
 #include <QStringList>
 
 class QTextDocument;
