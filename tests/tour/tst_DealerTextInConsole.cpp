@@ -179,7 +179,8 @@ void tst_DealerTextInConsole::theTextIsReadBeforeTheFirstStep()
     dealerSays(u"Call us"_s);
     m_system->showSplash();
     QString atFirstStep;
-    connect(&console().Header, &RichTextBox::Change, this, [&] { atFirstStep = info(); });
+    const QObject watch;
+    connect(&console().Header, &RichTextBox::Change, &watch, [&] { atFirstStep = info(); });
     m_system->leaveIntro();
     QCOMPARE(console().Tag(), u"101"_s);
     QCOMPARE(atFirstStep, u"Call us\n"_s);

@@ -69,15 +69,16 @@ void tst_TourStepTexts::theConsoleIsFilledInItsOrder()
     m_system->host.writeFile(u"DemoData.ini"_s, step("127", "next", "back"));
     frmDemo &window = console();
     QStringList seen;
+    const QObject watch;
     const auto note = [&](const QString &what) {
         const QString line = QStringList{what, window.Tag(), window.cmdGoNext.Tag(), window.cmdGoBack.Tag()}.join(u' ');
         if (seen.isEmpty() || seen.last() != line) seen << line;
     };
-    connect(&window.Header, &RichTextBox::Change, this, [&] { note(u"Header"_s); });
-    connect(&window.rtf, &RichTextBox::Change, this, [&] { note(u"rtf"_s); });
-    connect(&window.txtNext, &TextBox::Change, this, [&] { note(u"txtNext"_s); });
-    connect(&window.txtPrev, &TextBox::Change, this, [&] { note(u"txtPrev"_s); });
-    connect(&window.txtTag, &TextBox::Change, this, [&] { note(u"txtTag"_s); });
+    connect(&window.Header, &RichTextBox::Change, &watch, [&] { note(u"Header"_s); });
+    connect(&window.rtf, &RichTextBox::Change, &watch, [&] { note(u"rtf"_s); });
+    connect(&window.txtNext, &TextBox::Change, &watch, [&] { note(u"txtNext"_s); });
+    connect(&window.txtPrev, &TextBox::Change, &watch, [&] { note(u"txtPrev"_s); });
+    connect(&window.txtTag, &TextBox::Change, &watch, [&] { note(u"txtTag"_s); });
     ShowTourStep(u"127"_s);
     const QStringList order{u"Header 127 (none) (none)"_s, u"rtf 127 (none) (none)"_s, u"txtNext 127 next back"_s,
                             u"txtPrev 127 next back"_s, u"txtTag 127 next back"_s};

@@ -1,4 +1,4 @@
-#include "RtfCodePage.h"
+#include "platform/richtext/RtfCodePage.h"
 
 #include "platform/system/CodePage1252.h"
 #include <QStringDecoder>

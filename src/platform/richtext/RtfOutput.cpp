@@ -2,6 +2,7 @@
 
 #include "platform/richtext/RtfCodePage.h"
 #include "platform/richtext/RtfTokenizer.h"
+#include "platform/system/CodePage1252.h"
 #include <algorithm>
 
 namespace orvane
