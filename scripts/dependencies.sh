@@ -10,6 +10,7 @@
     packages_virtual_display=(xvfb openbox)
     packages_bench=(libbenchmark-dev hyperfine time unrtf pandoc abiword libreoffice-writer-nogui)
     packages_check=(fonts-liberation fonts-dejavu-core clang-format-14 clang libclang-rt-14-dev)
+    packages_tidy=(clang-tidy)
 }
 
 missing_packages() {

@@ -171,10 +171,12 @@ void frmCommandCentre::restFocus(int)
     cmdCommand(0).SetFocus();
 }
 
+// What was chosen may have opened a window, which then keeps the focus: taking it back would call the diagram forward.
 void frmCommandCentre::drop(const QString &band)
 {
-    Default<mdiMain>().mnuMain.Bands(band).PopupMenu(AtMouse, AtMouse);
-    cmdCommand(0).SetFocus();
+    mdiMain &frame = Default<mdiMain>();
+    frame.mnuMain.Bands(band).PopupMenu(AtMouse, AtMouse);
+    if (frame.ActiveForm() == this) cmdCommand(0).SetFocus();
 }
 
 } // namespace orvane

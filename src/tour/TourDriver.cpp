@@ -67,7 +67,7 @@ void pressRibbon(const TourScript &script)
 
 void pressMenu(const TourScript &script)
 {
-    mdiMain &frame = Default<mdiMain>();
+    auto &frame = Default<mdiMain>();
     Tool &tool = barOf(frame, QStringLiteral("mnuMain")).Bands(script.field(2)).Tools(script.field(3));
     frame.names().call(QStringLiteral("mnuMain_Click"), {&tool});
 }

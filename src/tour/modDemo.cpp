@@ -90,7 +90,7 @@ void ShowTourStep(QString &tag)
         Default<frmError>().Show(Modal);
         return;
     }
-    frmDemo &console = Default<frmDemo>();
+    auto &console = Default<frmDemo>();
     if (!console.Visible()) return;
     console.Show();
     if (hasEnded(console)) {

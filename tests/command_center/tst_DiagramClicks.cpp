@@ -3,8 +3,10 @@
 #include "command_center/DiagramUser.h"
 #include "shell/ShellProbes.h"
 #include "support/ReportedTags.h"
+#include "support/UserOnBars.h"
 
 #include <QCursor>
+#include <QMdiSubWindow>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
@@ -43,8 +45,8 @@ private slots:
     void theMenuDropsBelowTheButtonForTheKeyboard();
     void droppingAMenuReportsNothing_data();
     void droppingAMenuReportsNothing();
-    void aChoiceWithTheKeysOpensItsWindow_data();
-    void aChoiceWithTheKeysOpensItsWindow();
+    void aChoiceOpensItsWindowInFront_data();
+    void aChoiceOpensItsWindowInFront();
     void aChoiceWithoutLiveExampleBringsTheNotice_data();
     void aChoiceWithoutLiveExampleBringsTheNotice();
 
@@ -240,42 +242,54 @@ void tst_DiagramClicks::droppingAMenuReportsNothing()
     QCOMPARE(reported.tags(), QStringList());
 }
 
-void tst_DiagramClicks::aChoiceWithTheKeysOpensItsWindow_data()
+void tst_DiagramClicks::aChoiceOpensItsWindowInFront_data()
 {
     QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("panel");
     QTest::addColumn<QStringList>("path");
     QTest::addColumn<QString>("tag"); // of the window
     QTest::addColumn<QString>("section");
-    QTest::newRow("a step") << u"cmdImpMnu(3)"_s
-                            << QStringList{u"mnuPhase2"_s, u"mnuEmergencyPreparednessandResponse"_s}
-                            << u"[Implementation Guide] - STEP 17 - Emergency Preparedness and Response"_s << u"127"_s;
-    QTest::newRow("a section of the manual")
-        << u"cmdEnvMnuMSR(5)"_s
-        << QStringList{u"mnuImplementationandOperation"_s, u"mnuEmergencyPreparednessandResponse"_s}
-        << u"[Environmental Manual] - Emergency Preparedness and Response"_s << u"219"_s;
-    QTest::newRow("a procedure") << u"cmdPrc(0)"_s << QStringList{u"EmergencyPlanning"_s}
-                                 << u"[Management Procedures] - Emergency Planning"_s << u"311"_s;
-    QTest::newRow("a core record") << u"cmdRec(0)"_s << QStringList{u"EmergencyPlan"_s}
-                                   << u"[Records] - Emergency Plan"_s << u"511"_s;
-    QTest::newRow("an environment record") << u"cmdRec(1)"_s << QStringList{u"SignificantAspectsandImpactsSummary"_s}
-                                           << u"[Records] - Significant Aspects and Impacts Summary"_s << u"519"_s;
+    QTest::addColumn<bool>("byKeys");
+    for (const bool byKeys : {true, false}) {
+        const auto row = [byKeys](const char *what, const char *button, int panel, const QStringList &path,
+                                  const QString &tag, const char *section) {
+            QTest::addRow("%s by %s", what, byKeys ? "keys" : "mouse")
+                << QString::fromLatin1(button) << panel << path << tag << QString::fromLatin1(section) << byKeys;
+        };
+        row("a step", "cmdImpMnu(3)", 1, {u"mnuPhase2"_s, u"mnuEmergencyPreparednessandResponse"_s},
+            u"[Implementation Guide] - STEP 17 - Emergency Preparedness and Response"_s, "127");
+        row("a section of the manual", "cmdEnvMnuMSR(5)", 2,
+            {u"mnuImplementationandOperation"_s, u"mnuEmergencyPreparednessandResponse"_s},
+            u"[Environmental Manual] - Emergency Preparedness and Response"_s, "219");
+        row("a procedure", "cmdPrc(0)", 3, {u"EmergencyPlanning"_s}, u"[Management Procedures] - Emergency Planning"_s,
+            "311");
+        row("a core record", "cmdRec(0)", 5, {u"EmergencyPlan"_s}, u"[Records] - Emergency Plan"_s, "511");
+        row("an environment record", "cmdRec(1)", 5, {u"SignificantAspectsandImpactsSummary"_s},
+            u"[Records] - Significant Aspects and Impacts Summary"_s, "519");
+    }
 }
 
-void tst_DiagramClicks::aChoiceWithTheKeysOpensItsWindow()
+// It stays in front: putting the focus to rest doesn't call the diagram back.
+void tst_DiagramClicks::aChoiceOpensItsWindowInFront()
 {
     QFETCH(QString, button);
+    QFETCH(int, panel);
     QFETCH(QStringList, path);
     QFETCH(QString, section);
-    SSCommand &opener = buttonOf(diagram(), button);
-    for (int panel = 1; panel <= 5; ++panel)
-        if (diagram().fraButtons(panel).widget().isAncestorOf(&opener.widget())) showPanel(*m_system, panel);
+    QFETCH(bool, byKeys);
+    showPanel(*m_system, panel);
     const ReportedTags reported(m_system->console());
     bool chosen = false;
-    QVERIFY(whileDropped([&] { pressBy(opener, Qt::Key_Down); }, [&](QMenu &) { chosen = chooseByKeys(path); }));
+    const auto choose = [&](QMenu &menu) { chosen = byKeys ? chooseByKeys(path) : clickThrough(menu, path); };
+    SSCommand &opener = buttonOf(diagram(), button);
+    QVERIFY(whileDropped([&] { pressBy(opener, byKeys ? Qt::Key_Down : Qt::Key_unknown); }, choose));
     QVERIFY(chosen);
+    m_system->frame().SetFocus();
+    QTRY_VERIFY(m_system->frame().shell().isActiveWindow());
     QTEST(m_system->active()->Tag(), "tag");
     QCOMPARE(Shared().SectionText, section);
     QVERIFY(reported.tags().startsWith(section));
+    QVERIFY(m_system->active()->subWindow().isMaximized());
 }
 
 void tst_DiagramClicks::aChoiceWithoutLiveExampleBringsTheNotice_data()

@@ -251,12 +251,14 @@ void tst_DiagramLayout::aHeldLayoutMovesNothingAndLiftsTheHold()
 void tst_DiagramLayout::aMinimisedWindowIsNotLaidOut()
 {
     m_system->start();
-    diagram().setWindowState(Normal);
+    diagram().gradient.Move(15, 30, 45, 60);
     const Places before = placesOf(diagram());
     diagram().setWindowState(Minimized);
     diagram().Form_Resize();
     QCOMPARE(diagram().WindowState(), int(Minimized));
     QVERIFY(placesOf(diagram()) == before);
+    diagram().setWindowState(Maximized);
+    QCOMPARE(placeOf(diagram().gradient), QRectF(0, 0, diagram().ScaleWidth(), diagram().ScaleHeight()));
 }
 
 void tst_DiagramLayout::aHeldLayoutOfAMinimisedWindowLiftsTheHold()

@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextEdit>
+#include <QWindow>
 
 namespace orvane::test
 {
@@ -52,10 +53,12 @@ public:
         clickPage(page().cursorRect(cursor).center(), button);
     }
 
+    // On its way through the window, as a click on a desktop goes.
     void clickPage(const QPoint &place, Qt::MouseButton button = Qt::LeftButton) const
     {
         QVERIFY2(page().viewport()->rect().contains(place), "the place is not on show");
-        QTest::mouseClick(page().viewport(), button, Qt::NoModifier, place);
+        QWidget *window = page().window();
+        QTest::mouseClick(window->windowHandle(), button, Qt::NoModifier, page().viewport()->mapTo(window, place));
     }
 
     // Of an action on the Implementation page, from 1.

@@ -47,12 +47,6 @@ struct OpenPage {
     }
 
     QTextBlock block(qsizetype number) const { return open.page().document()->findBlockByNumber(int(number)); }
-    // Characters shown before the first of the page's own.
-    int lead(qsizetype number) const
-    {
-        return number == 0 ? int(block(0).text().indexOf(said.first().text.front())) : 0;
-    }
-
     Shown shown;
     GuideWindow open;
     QList<Paragraph> said;
@@ -139,7 +133,7 @@ void tst_GuidePageLooks::everyParagraphBearsItsText()
     const OpenPage page(view);
     QCOMPARE(page.open.page().document()->blockCount(), page.said.size());
     for (qsizetype i = 0; i < page.said.size(); ++i)
-        QCOMPARE(page.block(i).text().sliced(page.lead(i)), page.said.at(i).text);
+        QCOMPARE(page.block(i).text(), page.said.at(i).text);
 }
 
 void tst_GuidePageLooks::everyCharacterHasItsLook()
@@ -149,7 +143,7 @@ void tst_GuidePageLooks::everyCharacterHasItsLook()
     for (qsizetype i = 0; i < page.said.size(); ++i) {
         const Paragraph &said = page.said.at(i);
         for (qsizetype j = 0; j < said.text.size(); ++j) {
-            const Look shown = lookAt(page.block(i), page.lead(i) + int(j));
+            const Look shown = lookAt(page.block(i), int(j));
             if (shown == said.looks.at(j)) continue;
             QFAIL(qPrintable(u"paragraph %1, \"%2\": %3 and not %4"_s.arg(i).arg(said.text.sliced(j), words(shown),
                                                                                  words(said.looks.at(j)))));
@@ -164,7 +158,6 @@ void tst_GuidePageLooks::allTextIsInOneFont()
     for (QTextBlock block = page.block(0); block.isValid(); block = block.next())
         for (auto part = block.begin(); !part.atEnd(); ++part) {
             const QTextFragment run = part.fragment();
-            if (block.blockNumber() == 0 && run.text().trimmed().isEmpty()) continue;
             QCOMPARE(run.charFormat().fontFamilies().toStringList(), QStringList(u"Times New Roman"_s));
         }
 }

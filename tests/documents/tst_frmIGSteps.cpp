@@ -50,6 +50,7 @@ private slots:
     void theSameTitleOpensOneWindow();
     void aSectionThatIsNoNumberOpensNothing();
 
+    void theStepOpensFromTheDiagram();
     void itIsListedOnceItIsActive();
     void theWindowListMarksTheActiveWindow();
     void aWindowThatGoesLeavesTheWindowList();
@@ -101,9 +102,6 @@ void tst_frmIGSteps::aSectionShowsItsPage()
     const GuideWindow open(section);
     QTEST(open.guide->pnlNumber.Caption(), "number");
     QTEST(open.guide->pnlHeading.Caption(), "heading");
-    QEXPECT_FAIL("102", "the blanks behind the header's groups are shown before the title", Continue);
-    QEXPECT_FAIL("103", "the blanks behind the header's groups are shown before the title", Continue);
-    QEXPECT_FAIL("104", "the blanks behind the header's groups are shown before the title", Continue);
     QCOMPARE(open.guide->rtfData.Text().section(u'\n', 0, 0), firstLine);
 }
 
@@ -203,6 +201,19 @@ void tst_frmIGSteps::aSectionThatIsNoNumberOpensNothing()
     OpenGuide(u"Title"_s, u"12a"_s);
     QCOMPARE(countWindows(u"frmIGSteps"_s), 0);
     QCOMPARE(system.active(), &system.diagram());
+}
+
+void tst_frmIGSteps::theStepOpensFromTheDiagram()
+{
+    RunningSystem system;
+    system.start();
+    system.frame().SetFocus();
+    QTRY_VERIFY(system.frame().shell().isActiveWindow());
+    const QString step = u"mnuEmergencyPreparednessandResponse"_s;
+    QVERIFY(chooseFromPopup([&] { system.click(system.diagram().cmdImpMnu(3)); }, {u"mnuPhase2"_s, step}));
+    QCOMPARE(system.active()->Tag(), u"[Implementation Guide] - STEP 17 - Emergency Preparedness and Response"_s);
+    QCOMPARE(system.active()->WindowState(), int(Maximized));
+    QCOMPARE(system.console().Tag(), u"127"_s);
 }
 
 void tst_frmIGSteps::itIsListedOnceItIsActive()

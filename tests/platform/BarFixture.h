@@ -65,7 +65,7 @@ inline constexpr BandRow LinkBands[] = {
 inline constexpr ToolRow MenuTools[] = {
     {.id = 20, .name = u"mnuFile", .caption = u"&File", .flyout = u"mnuFile"},
     {.id = 21, .name = u"mnuCommand", .caption = u"&Command", .flyout = u"mnuCommand"},
-    {.id = 22, .name = u"mnuWindow", .caption = u"&Window", .flyout = u"mnuWindow"},
+    {.id = 22, .name = u"mnuWindow", .caption = u"&Window", .description = u"What is open", .flyout = u"mnuWindow"},
 };
 inline constexpr ToolRow FileTools[] = {
     {.id = 23,
@@ -136,6 +136,10 @@ public:
 
     std::unique_ptr<ActiveBar> bar;
     QLineEdit *edit;
+    QList<int> keys; // that reached the window itself
+
+protected:
+    void Form_KeyPress(int keyAscii) override { keys += keyAscii; }
 };
 
 // A frame with a menu, and a document window inside it.

@@ -15,6 +15,9 @@ private slots:
     void whatIsTypedStandsInTheTool();
     void enterInAFieldIsAKeyAndAClick();
     void aPickedEntryStandsInTheToolBeforeItsClick();
+    void enterInAFieldIsNotForTheWindow();
+    void whatIsTypedIsNotCompleted();
+    void aFieldMayBeRemovedInItsOwnClick();
     void typingAnEntryIsNoPick();
     void theFieldFollowsTheTool();
     void aFieldSpeaksItsCaption();
@@ -65,6 +68,40 @@ void tst_ActiveBarFields::aPickedEntryStandsInTheToolBeforeItsClick()
     QTest::keyClick(zoom, Qt::Key_Down);
     QTest::keyClick(zoom, Qt::Key_Down);
     QCOMPARE(events, (QStringList{u"200% 0"_s, u"miZoom"_s, u"75% 1"_s, u"miZoom"_s}));
+}
+
+void tst_ActiveBarFields::enterInAFieldIsNotForTheWindow()
+{
+    BarWindow window(PreviewBands);
+    window.open();
+    auto *field = window.shell().findChild<QLineEdit *>(u"PageNumber"_s);
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Return);
+    QTest::keyClick(field, Qt::Key_Escape);
+    QCOMPARE(window.keys, QList<int>{27});
+}
+
+void tst_ActiveBarFields::whatIsTypedIsNotCompleted()
+{
+    BarWindow window(PreviewBands);
+    window.bar->Tools(u"miZoom"_s).setList({u"200%"_s, u"75%"_s});
+    window.open();
+    auto *zoom = window.shell().findChild<QComboBox *>(u"miZoom"_s);
+    zoom->setFocus();
+    QTest::keyClicks(zoom, u"7"_s);
+    QCOMPARE(zoom->currentText(), u"7"_s);
+    QCOMPARE(window.bar->Tools(u"miZoom"_s).Text(), u"7"_s);
+}
+
+void tst_ActiveBarFields::aFieldMayBeRemovedInItsOwnClick()
+{
+    BarWindow window(PreviewBands);
+    window.open();
+    connect(window.bar.get(), &ActiveBar::Click, this, [&] { window.bar->Bands(0).Tools().Remove(1); });
+    auto *field = window.shell().findChild<QLineEdit *>(u"PageNumber"_s);
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Return);
+    QVERIFY(!window.shell().findChild<QLineEdit *>(u"PageNumber"_s));
 }
 
 void tst_ActiveBarFields::typingAnEntryIsNoPick()

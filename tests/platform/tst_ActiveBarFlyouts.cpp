@@ -31,6 +31,8 @@ private slots:
     void aSecondPressClosesTheFlyout();
     void aFlyoutIsKnownToHaveAMenu();
     void aFlyoutOpenedByAnAssistiveTechnologyClicks();
+    void theBarMayEndWhileItsFlyoutIsOpen();
+    void theMouseMayHaveLeftTheButtonWhenTheFlyoutCloses();
 };
 
 void tst_ActiveBarFlyouts::aFlyoutOpensBelowItsButton()
@@ -178,6 +180,31 @@ void tst_ActiveBarFlyouts::aFlyoutOpenedByAnAssistiveTechnologyClicks()
         spoken->doAction(action);
     }
     QCOMPARE(clicks.count(), 2);
+}
+
+void tst_ActiveBarFlyouts::theBarMayEndWhileItsFlyoutIsOpen()
+{
+    BarWindow window;
+    window.open();
+    onceAMenuIsOpen(window, [&](QMenu &) { window.bar.reset(); });
+    QTest::mousePress(window.button(u"Related"_s), Qt::LeftButton);
+    QVERIFY(!window.bar);
+    QVERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_ActiveBarFlyouts::theMouseMayHaveLeftTheButtonWhenTheFlyoutCloses()
+{
+    BarWindow window;
+    window.open();
+    QToolButton *related = window.button(u"Related"_s);
+    QTest::mouseMove(related);
+    QTRY_VERIFY(related->underMouse());
+    onceAMenuIsOpen(window, [&](QMenu &menu) {
+        QCursor::setPos(placeOnScreen(*window.edit).center());
+        menu.close();
+    });
+    QTest::mousePress(related, Qt::LeftButton);
+    QVERIFY(!related->underMouse());
 }
 
 QTEST_MAIN(tst_ActiveBarFlyouts)

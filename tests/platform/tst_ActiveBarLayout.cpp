@@ -145,7 +145,7 @@ void tst_ActiveBarLayout::anUnplacedBarFillsItsPanel()
     BarWindow window;
     window.open();
     SSPanel panel(window, u"ssMnu"_s);
-    panel.Move(0, 600, 6000, 420);
+    panel.Move(0, 600, 6000, 600);
     panel.setVisible(true);
     ActiveBar bar(panel, u"mnuNav"_s, LinkBands);
     QCOMPARE(bar.widget().geometry(), panel.widget().contentsRect());

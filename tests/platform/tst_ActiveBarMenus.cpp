@@ -74,6 +74,7 @@ private slots:
     void aBandWithoutToolsOpensNothing();
     void changesAreSeenInAnOpenMenu();
     void aToolThatComesOrGoesIsSeenInAnOpenMenu();
+    void anOpenSubMenuClosesWithItsTool();
     void aToolMayBeRemovedByItsOwnClick();
     void altAndTheAccessKeyOpenAMenu();
     void entriesBearTheNamesOfTheirTools();
@@ -81,6 +82,8 @@ private slots:
     void theHighlightedEntryIsDescribed();
 
     void afterAPopupNothingIsDescribed();
+    void aTitleIsDescribedWhileTheMouseIsOnIt();
+    void anEntryIsDescribedWhileTheMouseIsOnIt();
     void aPopupReturnsWhenItHasClosed();
     void aPopupClicksBeforeItReturns();
     void aPopupDropsAtItsPlace();
@@ -218,6 +221,10 @@ void tst_ActiveBarMenus::aBandWithoutToolsOpensNothing()
     QSignalSpy clicks(&open.frame.bar, &ActiveBar::Click);
     QVERIFY(!open.openByMouse(u"mnuWindow"_s));
     QCOMPARE(clicks.count(), 0);
+    ToolList &tools = open.frame.bar.Bands(u"mnuWindow"_s).Tools();
+    tools.Add(35000, u"One"_s);
+    tools.Remove(0);
+    QVERIFY(!open.openByMouse(u"mnuWindow"_s));
 }
 
 void tst_ActiveBarMenus::changesAreSeenInAnOpenMenu()
@@ -246,6 +253,17 @@ void tst_ActiveBarMenus::aToolThatComesOrGoesIsSeenInAnOpenMenu()
     QVERIFY(!entry(*file, u"properties"_s));
     QCOMPARE(file->actions().last()->text(), u"New"_s);
     QCOMPARE(entry(*file, u"exit"_s), kept);
+}
+
+void tst_ActiveBarMenus::anOpenSubMenuClosesWithItsTool()
+{
+    OpenFrame open;
+    QMenu *command = open.openByMouse(u"mnuCommand"_s);
+    QMenu *procedures = entry(*command, u"Procedures"_s)->menu();
+    clickEntry(*command, u"Procedures"_s);
+    QTRY_VERIFY(procedures->isVisible());
+    open.frame.bar.Bands(u"mnuCommand"_s).Tools().Remove(0);
+    QVERIFY(!procedures->isVisible());
 }
 
 void tst_ActiveBarMenus::aToolMayBeRemovedByItsOwnClick()
@@ -322,6 +340,38 @@ void tst_ActiveBarMenus::afterAPopupNothingIsDescribed()
     QCursor::setPos(0, 0); // the mouse has no part in it
     window.bar->Bands(u"EMLink"_s).PopupMenu(300 * TwipsPerPixel, 300 * TwipsPerPixel);
     QCOMPARE(told, (QStringList{u"Section 4.4.7"_s, QString()}));
+}
+
+void tst_ActiveBarMenus::aTitleIsDescribedWhileTheMouseIsOnIt()
+{
+    OpenFrame open;
+    QString told;
+    connect(&open.frame.bar, &ActiveBar::Hover, this, [&](const QString &text) { told = text; });
+    const QPoint onTitle = open.titleOf(u"mnuWindow"_s).center();
+    QTest::mouseMove(&open.menuBar(), onTitle - QPoint(1, 0));
+    QTest::mouseMove(&open.menuBar(), onTitle);
+    QTRY_COMPARE(told, u"What is open"_s);
+    QTest::mouseMove(open.child.edit);
+    QTRY_COMPARE(told, QString());
+}
+
+void tst_ActiveBarMenus::anEntryIsDescribedWhileTheMouseIsOnIt()
+{
+    BarWindow window;
+    window.open();
+    QStringList told;
+    connect(window.bar.get(), &ActiveBar::Hover, this, [&](const QString &text) { told += text; });
+    onceAMenuIsOpen(window, [&](QMenu &menu) {
+        const QPoint onEntry = menu.actionGeometry(entry(menu, u"mnuMP"_s)).center();
+        QTest::mouseMove(&menu, onEntry - QPoint(0, 1));
+        QTest::mouseMove(&menu, onEntry);
+        QTRY_COMPARE(told, QStringList{u"The procedures"_s});
+        QTest::mouseMove(window.edit);
+        QTRY_COMPARE(told.last(), QString());
+        menu.close();
+    });
+    window.bar->Bands(u"subRelated"_s).PopupMenu(400 * TwipsPerPixel, 500 * TwipsPerPixel);
+    QCOMPARE(told.size(), 2);
 }
 
 void tst_ActiveBarMenus::aPopupReturnsWhenItHasClosed()
@@ -429,6 +479,7 @@ void tst_ActiveBarMenus::anEmptyBandPopsNothingUp()
     window.open();
     window.bar->Bands(u"IGLink"_s).PopupMenu(-1, -1);
     QVERIFY(!QApplication::activePopupWidget());
+    QVERIFY(!window.shell().findChild<QMenu *>(u"IGLink"_s));
 }
 
 void tst_ActiveBarMenus::aPopupSurvivesTheEndOfItsBar()

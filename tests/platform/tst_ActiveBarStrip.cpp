@@ -40,6 +40,7 @@ private slots:
     void aToolMayBeRemovedInItsOwnClick();
     void theBarMayEndInItsOwnClick_data();
     void theBarMayEndInItsOwnClick();
+    void theBarMayEndWithTheFocusInIt();
 };
 
 void tst_ActiveBarStrip::aClickPressesTheTool()
@@ -155,6 +156,7 @@ void tst_ActiveBarStrip::everyButtonHasANameATextAndASpokenName()
 {
     BarWindow window;
     window.open();
+    QCOMPARE(window.bar->widget().accessibleName(), u"Related"_s);
     const QToolButton *close = window.button(u"Close"_s);
     QCOMPARE(close->accessibleName(), u"Close"_s);
     QCOMPARE(close->accessibleDescription(), u"Close "_s);
@@ -239,6 +241,18 @@ void tst_ActiveBarStrip::theBarMayEndInItsOwnClick()
     press(window);
     QVERIFY(!window.bar);
     QVERIFY(!name.isEmpty());
+}
+
+void tst_ActiveBarStrip::theBarMayEndWithTheFocusInIt()
+{
+    BarWindow window;
+    window.open();
+    QSignalSpy hovers(window.bar.get(), &ActiveBar::Hover);
+    window.button(u"Related"_s)->setFocus();
+    QCOMPARE(hovers.count(), 1);
+    window.bar.reset();
+    QVERIFY(!window.button(u"Related"_s));
+    QCOMPARE(hovers.count(), 1);
 }
 
 QTEST_MAIN(tst_ActiveBarStrip)

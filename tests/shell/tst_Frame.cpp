@@ -57,6 +57,8 @@ private slots:
     void theConsoleIsShownBeforeTheStepIsReported();
     void withDealerTextTheCloseBoxShowsTheDealersEnd();
     void aSecondCloseStaysAtTheEnd();
+    void aConsoleThatTheUserClosedComesBackAtTheClose();
+    void aMutedTourHearsNoEndAndTheFrameStays();
     void onlyQuitEndsTheProcess();
     void quitRunsNoOtherWindowsCleanUp();
 
@@ -258,6 +260,27 @@ void tst_Frame::aSecondCloseStaysAtTheEnd()
     QVERIFY(frame().Visible());
     QCOMPARE(console().Tag(), u"603"_s);
     QVERIFY(console().cmdQuit.Visible());
+}
+
+void tst_Frame::aConsoleThatTheUserClosedComesBackAtTheClose()
+{
+    m_system->start();
+    console().shell().close();
+    QCOMPARE(countWindows(u"frmDemo"_s), 0);
+    frame().shell().close();
+    QCOMPARE(countWindows(u"frmDemo"_s), 1);
+    QVERIFY(console().Visible());
+    QCOMPARE(console().Tag(), u"603"_s);
+}
+
+void tst_Frame::aMutedTourHearsNoEndAndTheFrameStays()
+{
+    m_system->start();
+    Shared().TourStepsMuted = True;
+    frame().shell().close();
+    QVERIFY(frame().Visible());
+    QCOMPARE(console().Tag(), u"101"_s);
+    QVERIFY(!console().cmdQuit.Visible());
 }
 
 void tst_Frame::onlyQuitEndsTheProcess()

@@ -5,7 +5,10 @@
 #include "support/RunningSystem.h"
 
 #include <QApplication>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
+#include <QRandomGenerator>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -33,6 +36,39 @@ QStringList checkedNames()
     for (const auto &tool : windowTools())
         if (tool->Checked()) checked << tool->Name();
     return checked;
+}
+
+// The names that the windows on show ought to have in the menu.
+QStringList listedNames()
+{
+    QStringList names;
+    for (const Form *form : Forms())
+        if (dynamic_cast<const MDIChild *>(form)) names << (form->Tag().isEmpty() ? form->Caption() : form->Tag());
+    return names;
+}
+
+QString titleOf(const Form &window)
+{
+    static const QMap<QString, QString> modules{{u"frmIGSteps"_s, u"orvane (Implementation Guide)"_s},
+                                                {u"frmEMMain"_s, u"orvane (Environment Manual)"_s},
+                                                {u"frmMPMain"_s, u"orvane (Management Procedures)"_s},
+                                                {u"frmATMain"_s, u"orvane (Action Tools)"_s},
+                                                {u"frmRCMain"_s, u"orvane (Records)"_s},
+                                                {u"frmCommandCentre"_s, u"orvane"_s}};
+    return modules.value(window.Name());
+}
+
+void openAny(QRandomGenerator &dice)
+{
+    const auto openers = {OpenGuide, OpenManual, OpenProcedures, OpenTools, OpenRecords};
+    const auto opener = openers.begin()[dice.bounded(5)];
+    opener(u"title %1"_s.arg(dice.bounded(3)), u"127"_s);
+}
+
+void chooseAny(QRandomGenerator &dice)
+{
+    ActiveBar &menu = Default<mdiMain>().mnuMain;
+    menu.press(windowTools().Item(dice.bounded(windowTools().Count())));
 }
 
 void add(const QStringList &names)
@@ -80,8 +116,11 @@ private slots:
     void aPreviewLeavesTheTitle();
     void theDesignTitleNeverComesBack();
     void theMenuShowsTheTools();
+    void theMenuAgreesWithTheWindowsWhateverTheUserDoes_data();
+    void theMenuAgreesWithTheWindowsWhateverTheUserDoes();
 
 private:
+    void verifyAgreement() const;
     Tool &lastTool() const { return windowTools().Item(windowTools().Count() - 1); }
 
     std::optional<RunningSystem> m_system;
@@ -96,6 +135,25 @@ void tst_WindowMenu::init()
 void tst_WindowMenu::cleanup()
 {
     m_system.reset();
+}
+
+// One numbered tool for each window, the active one's checked, and its module in the title.
+void tst_WindowMenu::verifyAgreement() const
+{
+    QStringList names;
+    int number = 0;
+    for (const auto &tool : windowTools()) {
+        names << tool->Name();
+        QCOMPARE(tool->Caption(), u"&%1 "_s.arg(++number) + tool->Name());
+    }
+    QStringList windows = listedNames();
+    names.sort();
+    windows.sort();
+    QCOMPARE(names, windows);
+    const MDIChild &active = *m_system->active();
+    QCOMPARE(checkedNames(), QStringList{active.Tag().isEmpty() ? active.Caption() : active.Tag()});
+    QCOMPARE(m_system->frame().Caption(), titleOf(active));
+    QCOMPARE(m_system->frame().area().activeSubWindow(), &active.subWindow());
 }
 
 void tst_WindowMenu::anAddedToolBearsItsFields()
@@ -387,6 +445,39 @@ void tst_WindowMenu::theMenuShowsTheTools()
         shown << action->text() + (action->isChecked() ? u" checked"_s : u""_s);
     menu->close();
     QCOMPARE(shown, (QStringList{u"&1 Command Center"_s, u"&2 [Implementation Guide] - Using this Guide checked"_s}));
+}
+
+void tst_WindowMenu::theMenuAgreesWithTheWindowsWhateverTheUserDoes_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 500; ++seed)
+        QTest::addRow("walk %u", seed) << seed;
+}
+
+void tst_WindowMenu::theMenuAgreesWithTheWindowsWhateverTheUserDoes()
+{
+    QFETCH(quint32, seed);
+    QRandomGenerator dice(seed);
+    m_system->start();
+    for (int step = 0; step < 60; ++step) {
+        switch (dice.bounded(5)) {
+        case 0:
+        case 1:
+            openAny(dice);
+            break;
+        case 2:
+            chooseAny(dice);
+            break;
+        case 3:
+            m_system->active()->setWindowState(dice.bounded(3));
+            break;
+        default:
+            m_system->active()->shell().close();
+            break;
+        }
+        verifyAgreement();
+        if (QTest::currentTestFailed()) return;
+    }
 }
 
 QTEST_MAIN(tst_WindowMenu)

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 
 namespace orvane::test
 {
@@ -50,9 +51,9 @@ inline bool clickThrough(QMenu &first, const QStringList &path)
     return true;
 }
 
-// Opens the tool's flyout by its button and goes through it; returns when the choice has had its effect. False where
-// there is no flyout, or no way to the entry.
-inline bool chooseFromFlyout(const ActiveBar &bar, const QString &tool, const QStringList &path)
+// Goes through the menu that the step drops; returns when the choice has had its effect. False where no menu came up,
+// or where there was no way to the entry.
+inline bool chooseFromPopup(const std::function<void()> &drop, const QStringList &path)
 {
     bool chosen = false;
     QTimer watch;
@@ -63,8 +64,14 @@ inline bool chooseFromFlyout(const ActiveBar &bar, const QString &tool, const QS
         chosen = clickThrough(*menu, path);
     });
     watch.start(1);
-    pressButton(bar, tool);
+    drop();
     return chosen;
+}
+
+// The same by the button of a tool that has a flyout.
+inline bool chooseFromFlyout(const ActiveBar &bar, const QString &tool, const QStringList &path)
+{
+    return chooseFromPopup([&] { pressButton(bar, tool); }, path);
 }
 
 } // namespace orvane::test

@@ -27,4 +27,16 @@ inline frmIGSteps &openStep(const RunningSystem &system)
     return dynamic_cast<frmIGSteps &>(*system.active());
 }
 
+// Every tag that the console comes to show.
+class ShownTags : public QObject
+{
+public:
+    explicit ShownTags(frmDemo &console)
+    {
+        connect(&console.txtTag, &TextBox::Change, this, [this, &console] { tags << console.txtTag.Text(); });
+    }
+
+    QStringList tags;
+};
+
 } // namespace orvane::test

@@ -42,6 +42,7 @@ private:
     }
 
     std::optional<RunningSystem> m_system;
+    QString m_infoAtFirstStep;
 };
 
 void tst_DealerTextInConsole::init()
@@ -178,12 +179,10 @@ void tst_DealerTextInConsole::theTextIsReadBeforeTheFirstStep()
 {
     dealerSays(u"Call us"_s);
     m_system->showSplash();
-    QString atFirstStep;
-    const QObject watch;
-    connect(&console().Header, &RichTextBox::Change, &watch, [&] { atFirstStep = info(); });
+    connect(&console().Header, &RichTextBox::Change, this, [this] { m_infoAtFirstStep = info(); });
     m_system->leaveIntro();
     QCOMPARE(console().Tag(), u"101"_s);
-    QCOMPARE(atFirstStep, u"Call us\n"_s);
+    QCOMPARE(m_infoAtFirstStep, u"Call us\n"_s);
 }
 
 void tst_DealerTextInConsole::theTextIsNotReadWhenTheIntroRunsOut()

@@ -12,7 +12,10 @@ using namespace orvane::test;
 
 namespace
 {
-const QString None = QStringLiteral("(none)");
+QString none()
+{
+    return u"(none)"_s;
+}
 
 // Counts how often a window is brought to the front.
 class Raises : public QObject
@@ -269,8 +272,8 @@ void tst_ShowTourStep::theEndWithDealerTextNeverReadsTheOtherSection()
     m_system->writeScript({u"603"_s});
     Shared().DealerTextPresent = True;
     ShowTourStep(u"603"_s);
-    QCOMPARE(console().Header.Text(), None);
-    QCOMPARE(console().rtf.Text(), None);
+    QCOMPARE(console().Header.Text(), none());
+    QCOMPARE(console().rtf.Text(), none());
 }
 
 void tst_ShowTourStep::theCallersTagIsChangedByDealerTextAlone_data()
@@ -333,7 +336,7 @@ void tst_ShowTourStep::zeroHidesQuitAndInfoAndLeavesTheTexts()
     QCOMPARE(console().txtTag.Text(), u"101"_s);
     QCOMPARE(console().Header.Text(), u"Step 101"_s);
     QCOMPARE(console().rtf.Text(), u"Text of 101"_s);
-    QCOMPARE(console().cmdGoNext.Tag(), None);
+    QCOMPARE(console().cmdGoNext.Tag(), none());
 }
 
 void tst_ShowTourStep::aStepHidesQuitAndInfo()
@@ -358,8 +361,8 @@ void tst_ShowTourStep::hiddenButtonsStayHidden()
 void tst_ShowTourStep::aButtonWithoutAMoveStaysEnabled()
 {
     ShowTourStep(u"127"_s);
-    QCOMPARE(console().cmdGoNext.Tag(), None);
-    QCOMPARE(console().txtNext.Text(), None);
+    QCOMPARE(console().cmdGoNext.Tag(), none());
+    QCOMPARE(console().txtNext.Text(), none());
     QVERIFY(console().cmdGoNext.Enabled());
     m_system->click(console().cmdGoNext);
     m_system->click(console().cmdGoBack);

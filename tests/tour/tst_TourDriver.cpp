@@ -14,20 +14,10 @@ using namespace orvane::test;
 
 namespace
 {
-const QStringList Modules{QStringLiteral("frmIGSteps"), QStringLiteral("frmEMMain"), QStringLiteral("frmMPMain"),
-                          QStringLiteral("frmATMain"), QStringLiteral("frmRCMain")};
-
-// Every tag that the console comes to show.
-class ShownTags : public QObject
+QStringList modules()
 {
-public:
-    explicit ShownTags(frmDemo &console)
-    {
-        connect(&console.txtTag, &TextBox::Change, this, [this, &console] { tags << console.txtTag.Text(); });
-    }
-
-    QStringList tags;
-};
+    return {u"frmIGSteps"_s, u"frmEMMain"_s, u"frmMPMain"_s, u"frmATMain"_s, u"frmRCMain"_s};
+}
 } // namespace
 
 class tst_TourDriver : public QObject
@@ -110,7 +100,7 @@ void addModulesBothWays()
 {
     QTest::addColumn<bool>("forward");
     QTest::addColumn<QString>("name");
-    for (const QString &name : Modules) {
+    for (const QString &name : modules()) {
         QTest::addRow("Next %s", qPrintable(name)) << true << name;
         QTest::addRow("Back %s", qPrintable(name)) << false << name;
     }

@@ -11,7 +11,10 @@ using namespace orvane::test;
 
 namespace
 {
-const QString None = QStringLiteral("(none)");
+QString none()
+{
+    return u"(none)"_s;
+}
 } // namespace
 
 class tst_TourStepTexts : public QObject
@@ -90,7 +93,7 @@ void tst_TourStepTexts::aSectionIsFoundByItsLiteralTag()
     m_system->host.writeFile(u"DemoData.ini"_s, section("127", line("Header", "Short")));
     ShowTourStep(u"0127"_s);
     QCOMPARE(console().Tag(), u"0127"_s);
-    QCOMPARE(console().Header.Text(), None);
+    QCOMPARE(console().Header.Text(), none());
     m_system->host.writeFile(u"DemoData.ini"_s,
                              section("127", line("Header", "Short")) + section("0127", line("Header", "Long")));
     ShowTourStep(u"0127"_s);
@@ -103,12 +106,12 @@ void tst_TourStepTexts::whatIsAbsentShowsNone_data()
     QTest::addColumn<QString>("heading");
     QTest::addColumn<QString>("next");
     const QByteArray heading = line("Header", "Here");
-    QTest::newRow("the section") << section("128", heading) << None << None;
-    QTest::newRow("all keys") << section("127", {}) << None << None;
-    QTest::newRow("all keys but one") << section("127", heading) << u"Here"_s << None;
-    QTest::newRow("all keys but the script") << section("127", line("NextRTF", "1/cc/1")) << None << u"1/cc/1"_s;
-    QTest::newRow("everything in the file") << QByteArray() << None << None;
-    QTest::newRow("the file") << QByteArray("gone") << None << None;
+    QTest::newRow("the section") << section("128", heading) << none() << none();
+    QTest::newRow("all keys") << section("127", {}) << none() << none();
+    QTest::newRow("all keys but one") << section("127", heading) << u"Here"_s << none();
+    QTest::newRow("all keys but the script") << section("127", line("NextRTF", "1/cc/1")) << none() << u"1/cc/1"_s;
+    QTest::newRow("everything in the file") << QByteArray() << none() << none();
+    QTest::newRow("the file") << QByteArray("gone") << none() << none();
 }
 
 void tst_TourStepTexts::whatIsAbsentShowsNone()
@@ -119,11 +122,11 @@ void tst_TourStepTexts::whatIsAbsentShowsNone()
     ShowTourStep(u"127"_s);
     QCOMPARE(console().Tag(), u"127"_s);
     QTEST(console().Header.Text(), "heading");
-    QCOMPARE(console().rtf.Text(), None);
+    QCOMPARE(console().rtf.Text(), none());
     QTEST(console().cmdGoNext.Tag(), "next");
     QTEST(console().txtNext.Text(), "next");
-    QCOMPARE(console().cmdGoBack.Tag(), None);
-    QCOMPARE(console().txtPrev.Text(), None);
+    QCOMPARE(console().cmdGoBack.Tag(), none());
+    QCOMPARE(console().txtPrev.Text(), none());
 }
 
 void tst_TourStepTexts::anEmptyValueShowsNothing()

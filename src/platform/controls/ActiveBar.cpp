@@ -22,28 +22,24 @@ QWidget *newView(ActiveBar::Look look)
 } // namespace
 
 ActiveBar::ActiveBar(Container &parent, const QString &name, BarTable table, Look look)
-    : Control(parent, name, newView(look)), m_view(&widget()), m_container(parent.surface())
+    : Control(parent, name, newView(look)), m_strip(qobject_cast<BarStrip *>(&widget())), m_container(parent.surface())
 {
     m_bands.reserve(table.size());
     for (const BandRow &row : table)
         m_bands.push_back(std::make_unique<Band>(*this, row));
     requireFlyouts();
     LastInput::watch();
-    if (auto *strip = qobject_cast<BarStrip *>(m_view)) {
-        strip->showBar(*this);
+    if (m_strip) {
+        m_strip->showBar(*this);
         m_container.installEventFilter(this);
         dock();
-    } else if (auto *menu = qobject_cast<FrameMenu *>(m_view)) {
+    } else if (auto *menu = qobject_cast<FrameMenu *>(&widget())) {
         menu->showBar(*this);
         if (auto *frame = qobject_cast<QMainWindow *>(&parent.form().shell())) frame->setMenuBar(menu);
     }
 }
 
-ActiveBar::~ActiveBar()
-{
-    blockSignals(true);
-    delete m_view; // before the bands that it shows
-}
+ActiveBar::~ActiveBar() = default;
 
 void ActiveBar::requireFlyouts() const
 {
@@ -120,9 +116,9 @@ bool ActiveBar::eventFilter(QObject *watched, QEvent *event)
 // A container that is hardly higher than the bar is there for it alone, and is filled.
 void ActiveBar::dock()
 {
-    if (!qobject_cast<BarStrip *>(m_view) || QRectF(Left(), Top(), Width(), Height()) != m_docked) return;
+    if (!m_strip || QRectF(Left(), Top(), Width(), Height()) != m_docked) return;
     const QRect room = m_container.contentsRect();
-    const int wanted = m_view->sizeHint().height();
+    const int wanted = m_strip->sizeHint().height();
     const int height = room.height() < 2 * wanted ? room.height() : wanted;
     const int top = Bands(0).DockingArea() == DockedBottom ? room.bottom() + 1 - height : room.top();
     m_docked = QRectF(toTwips(room.left()), toTwips(top), toTwips(room.width()), toTwips(height));

@@ -17,6 +17,7 @@ namespace orvane
 {
 
 class ActiveBar;
+class BarStrip;
 
 // The tools of one band, in order. Item and Remove refuse an index or a name that isn't there with error 9.
 class ToolList
@@ -122,7 +123,7 @@ private:
     void dock();
 
     std::vector<std::unique_ptr<Band>> m_bands;
-    QPointer<QWidget> m_view;
+    QPointer<BarStrip> m_strip; // of a toolbar
     QWidget &m_container;
     QRectF m_docked; // the place that dock gave, in twips; a bar that lies elsewhere was given a place
     QString m_hovered;

@@ -14,7 +14,7 @@ class Tool;
 
 QFont barFont();
 void applyMenuLooks(QWidget &menu); // of a menu or menu bar: the bars' font, and a highlight on which pictures are seen
-QIcon toolIcon(const Tool &tool); // null where the tool has no picture
+QIcon toolIcon(const Tool &tool);   // null where the tool has no picture
 
 // The caption as a button or menu draws it: "&" marks the access key, "&&" stands for one "&", no outer blanks.
 QString shownCaption(const Tool &tool);

@@ -65,14 +65,6 @@ void BarMenu::leaveEvent(QEvent *event)
     tellHighlight();
 }
 
-// A second press on the opener closes the menu, and isn't handed on to the opener, which would open it again.
-void BarMenu::mousePressEvent(QMouseEvent *event)
-{
-    const DropPlace &place = root().m_place;
-    setAttribute(Qt::WA_NoMouseReplay, place.opener && place.anchor.contains(event->globalPosition().toPoint()));
-    QMenu::mousePressEvent(event);
-}
-
 BarMenu &BarMenu::root()
 {
     auto *above = qobject_cast<BarMenu *>(parentWidget());

@@ -23,7 +23,6 @@ public:
 protected:
     void showEvent(QShowEvent *event) override;
     void leaveEvent(QEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
 
 private:
     void note(QAction *action);

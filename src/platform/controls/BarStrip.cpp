@@ -75,7 +75,6 @@ void BarStrip::keepItems()
     for (const Place &left : m_places)
         dropItem(*left.item);
     m_places = std::move(places);
-    if (!m_places.empty()) setTabOrder(&m_places.back().item->focusTarget(), m_more);
 }
 
 StripItem *BarStrip::newItem(const std::shared_ptr<Tool> &tool)
@@ -168,7 +167,7 @@ void BarStrip::openFlyout(ToolButton &button)
     const QPointer<ToolButton> opener = &button;
     button.setDown(true);
     const auto chosen = static_cast<BarMenu *>(button.menu())->choose(dropPlaceAt(button));
-    if (opener) opener->setDown(false);
+    if (opener) opener->menuClosed();
     if (bar && chosen) bar->press(*chosen);
 }
 

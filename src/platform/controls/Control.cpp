@@ -87,6 +87,7 @@ void Control::place()
 void Control::setAlign(Alignments align)
 {
     m_align = align;
+    if (align == NotAligned) return;
     m_widget->parentWidget()->installEventFilter(this);
     cling();
 }
@@ -152,8 +153,8 @@ void Control::speak()
 
 void Control::setMousePointer(int pointer)
 {
-    m_mousePointer = pointer;
     voice().setCursor(pointerShape(pointer));
+    m_mousePointer = pointer;
 }
 
 // A control that isn't on show takes the focus off the others all the same.

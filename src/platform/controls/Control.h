@@ -88,7 +88,6 @@ protected:
     virtual QWidget &voice() const { return *m_widget; }
     virtual QWidget &focusTarget() const { return voice(); }
 
-
 private:
     void place();
     void cling();

@@ -37,7 +37,6 @@ DropPlace dropPlaceAt(const QWidget &opener)
     const QRect anchor(opener.mapToGlobal(QPoint(0, 0)), opener.size());
     return {.anchor = anchor,
             .room = opener.window()->frameGeometry() & screenAround(anchor.topLeft()),
-            .opener = &opener,
             .selectFirst = LastInput::wasKey()};
 }
 

@@ -13,8 +13,7 @@ namespace orvane
 struct DropPlace {
     QRect anchor;
     QRect room;
-    const QWidget *opener = nullptr; // the button that the menu belongs to, if any
-    bool selectFirst = false;        // as when the menu is opened by a key
+    bool selectFirst = false; // as when the menu is opened by a key
 
     QPoint beside(const QSize &menu) const;
 };

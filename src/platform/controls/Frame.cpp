@@ -12,8 +12,10 @@ Frame::Frame(Container &parent, const QString &name) : Control(parent, name, new
 
 bool Frame::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == &widget() && event->type() == QEvent::MouseButtonRelease && static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
-        emit Click();
+    if (watched == &widget() && event->type() == QEvent::MouseButtonRelease) {
+        const auto &mouse = static_cast<QMouseEvent &>(*event);
+        if (mouse.button() == Qt::LeftButton && widget().rect().contains(mouse.position().toPoint())) emit Click();
+    }
     return Control::eventFilter(watched, event);
 }
 

@@ -53,7 +53,6 @@ public:
     void setGround(const QColor &ground, int margin);              // colour and pixels round the text
     void setOneLine();                                             // no scroll bars, no wrapping
 
-
 signals:
     void Click();
     void SelChange();

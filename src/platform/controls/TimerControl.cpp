@@ -17,13 +17,13 @@ TimerControl::~TimerControl()
 
 void TimerControl::setEnabled(bool enabled)
 {
-    if (enabled == Enabled()) return;
-    if (enabled) {
+    if (enabled == m_enabled) return;
+    m_enabled = enabled;
+    if (m_interval == 0) return;
+    if (enabled)
         m_number = host().startTimer(m_interval, [this] { emit Timer(); });
-    } else {
+    else
         host().stopTimer(m_number);
-        m_number = 0;
-    }
 }
 
 } // namespace orvane

@@ -16,7 +16,7 @@ public:
     ~TimerControl() override;
 
     int Interval() const { return m_interval; }
-    bool Enabled() const { return m_number != 0; }
+    bool Enabled() const { return m_enabled; }
     void setEnabled(bool enabled);
 
 signals:
@@ -24,7 +24,8 @@ signals:
 
 private:
     int m_interval;
-    int m_number = 0; // the host's, 0 while the timer stands
+    bool m_enabled = false;
+    int m_number = 0; // the host's, while the timer runs
 };
 
 } // namespace orvane

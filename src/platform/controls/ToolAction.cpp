@@ -12,7 +12,6 @@ ToolAction::ToolAction(ActiveBar &bar, const std::shared_ptr<Tool> &tool, QObjec
 {
     setObjectName(tool->Name());
     setIcon(toolIcon(*tool));
-    setMenuRole(QAction::NoRole);
     connect(this, &QAction::hovered, &bar, [this] {
         if (const auto pointed = this->tool()) m_bar->hover(pointed->Description());
     });

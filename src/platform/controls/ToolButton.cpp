@@ -45,6 +45,13 @@ void ToolButton::setFlyout(QMenu *menu)
     setMenu(menu);
 }
 
+// The menu kept the mouse to itself, so the button wasn't told that the mouse has left it.
+void ToolButton::menuClosed()
+{
+    setAttribute(Qt::WA_UnderMouse, rect().contains(mapFromGlobal(QCursor::pos())));
+    setDown(false);
+}
+
 void ToolButton::follow(const Tool &tool, bool withAccessKey)
 {
     const QString caption = shownCaption(tool);

@@ -22,6 +22,7 @@ public:
     explicit ToolButton(QWidget *parent);
 
     void setFlyout(QMenu *menu);
+    void menuClosed(); // the button has its usual look again
 
     QWidget &widget() override { return *this; }
     QWidget &focusTarget() override { return *this; }

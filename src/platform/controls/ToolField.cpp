@@ -55,7 +55,6 @@ void ToolField::makeField(const Tool &tool)
         m_combo = new QComboBox(this);
         m_combo->setEditable(true);
         m_combo->setCompleter(nullptr);
-        m_combo->setInsertPolicy(QComboBox::NoInsert);
         m_combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         connect(m_combo, &QComboBox::activated, this, &ToolField::picked);
         m_edit = m_combo->lineEdit();

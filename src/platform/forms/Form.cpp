@@ -11,6 +11,7 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPalette>
+#include <QScopeGuard>
 #include <algorithm>
 
 namespace orvane
@@ -193,10 +194,10 @@ void Form::Show(int mode)
 {
     const FormPin pin(*this);
     Load();
-    if (mode == Modal) m_shell->setWindowModality(Qt::ApplicationModal);
     if (m_shell->isVisible()) {
         m_shell->raise();
     } else {
+        m_shell->setWindowModality(mode == Modal ? Qt::ApplicationModal : Qt::NonModal);
         applyState();
         if (m_shell->isWindow()) settle(*m_shell, m_state == Maximized);
     }
@@ -224,16 +225,21 @@ void Form::Hide()
     if (m_modalLoop) m_modalLoop->quit();
 }
 
+bool Form::refusesUnload(int mode)
+{
+    m_unloading = true;
+    const auto done = qScopeGuard([this] { m_unloading = false; }); // a handler may fail
+    bool cancel = false;
+    Form_QueryUnload(cancel, mode);
+    if (!cancel) Form_Unload(cancel);
+    return cancel;
+}
+
 bool Form::Unload(int mode)
 {
     if (!m_loaded || m_unloading) return true;
     const FormPin pin(*this);
-    m_unloading = true;
-    bool cancel = false;
-    Form_QueryUnload(cancel, mode);
-    if (!cancel) Form_Unload(cancel);
-    m_unloading = false;
-    if (cancel) return false;
+    if (refusesUnload(mode)) return false;
     m_loaded = false;
     windowList().remove(*this);
     m_gone = true;

@@ -69,7 +69,7 @@ public:
 
     Control *ActiveControl() const; // the control that has the focus in this window, or nullptr
     Control *control(const QString &name) const;
-    QWidget &focusRest(); // takes the focus off all controls on show
+    QWidget &focusRest();                  // takes the focus off all controls on show
     NameTable &names() { return m_names; } // handlers and controls by name
 
     QWidget &shell() const { return *m_shell; }
@@ -107,6 +107,7 @@ protected:
     void deactivated();
 
 private:
+    bool refusesUnload(int mode);
     void closeAsked(QCloseEvent &event);
     void stateChanged();
     void keyPressed(const QKeyEvent &event);

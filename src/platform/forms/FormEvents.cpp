@@ -95,7 +95,8 @@ void Form::activationChanged(bool active)
 void Form::keyPressed(const QKeyEvent &event)
 {
     Form_KeyDown(keyCodeOf(event), shiftStateOf(event));
-    if (const int ascii = asciiOf(event)) Form_KeyPress(ascii);
+    const int ascii = asciiOf(event);
+    if (ascii != 0 && m_loaded) Form_KeyPress(ascii);
 }
 
 void Form::keyReleased(const QKeyEvent &event)

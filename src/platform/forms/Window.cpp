@@ -71,11 +71,13 @@ CommandButton *Window::buttonOf(const QKeyEvent &event) const
 // A key that is still held down from before the window came up presses nothing.
 bool Window::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!Loaded() || watched != &shell() || event->type() != QEvent::KeyPress) return Form::eventFilter(watched, event);
+    const bool isPress = event->type() == QEvent::KeyPress;
+    const bool isKey = isPress || event->type() == QEvent::KeyRelease;
+    if (!Loaded() || watched != &shell() || !isKey) return Form::eventFilter(watched, event);
     const auto &key = static_cast<QKeyEvent &>(*event);
     const CommandButton *button = buttonOf(key);
     if (!button) return Form::eventFilter(watched, event);
-    if (!key.isAutoRepeat()) buttonShownBy(*button).click();
+    if (isPress && !key.isAutoRepeat()) buttonShownBy(*button).click();
     return true;
 }
 

@@ -32,10 +32,11 @@ enum class RtfWord : unsigned char {
     // text
     Character, // value: the character
     UnicodeCharacter,
-    UnicodeSkip,
     ParagraphBreak,
     PageBreak,
     // document
+    FirstOfHeader,
+    UnicodeSkip = FirstOfHeader,
     DocumentCodePage,
     DefaultFont,
     DefaultTab,

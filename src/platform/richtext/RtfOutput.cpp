@@ -1,6 +1,5 @@
 #include "platform/richtext/RtfOutput.h"
 
-#include "platform/richtext/RtfCodePage.h"
 #include "platform/richtext/RtfTokenizer.h"
 #include "platform/system/CodePage1252.h"
 #include <algorithm>

@@ -119,7 +119,7 @@ void RtfReader::takeText(QStringView text)
 {
     switch (m_group.destination) {
     case RtfGroup::Body:
-        return m_builder.addText(text, m_group.characters);
+        return takeBodyText(text);
     case RtfGroup::Fonts:
         return m_fonts.addText(text);
     case RtfGroup::Colours:
@@ -127,6 +127,15 @@ void RtfReader::takeText(QStringView text)
     case RtfGroup::BulletDefinition:
         return;
     }
+}
+
+// Blanks between the tables of the header are no text.
+void RtfReader::takeBodyText(QStringView text)
+{
+    while (m_header && text.startsWith(u' '))
+        text = text.sliced(1);
+    m_header = m_header && text.isEmpty();
+    if (!text.isEmpty()) m_builder.addText(text, m_group.characters);
 }
 
 void RtfReader::takeByte(int byte)

@@ -31,6 +31,7 @@ private:
 
     void takeSymbol(char16_t symbol);
     void takeText(QStringView text);
+    void takeBodyText(QStringView text);
     void takeByte(int byte);
     void takeCharacter(char16_t character);
     void takeCodePoint(int value);
@@ -56,6 +57,7 @@ private:
     int m_skip = 0;            // characters still to be left out behind a "\u"
     bool m_groupStart = false; // nothing but "\*" has come since the group was opened
     bool m_starred = false;    // "\*" has come: the group is to be left out if its word isn't known
+    bool m_header = true;      // no text has come, and no word that text would have before it
     bool m_over = false;
 };
 

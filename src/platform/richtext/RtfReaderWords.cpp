@@ -69,6 +69,7 @@ void RtfReader::enterBulletDefinition()
 
 void RtfReader::applyToBody(const RtfKeyword &keyword, const RtfToken &token)
 {
+    m_header = m_header && keyword.word >= RtfWord::FirstOfHeader;
     switch (keyword.word) {
     case RtfWord::Plain:
         return resetCharacters();

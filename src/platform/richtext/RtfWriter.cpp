@@ -120,13 +120,20 @@ void RtfWriter::writeBlock(const QTextBlock &block)
     writeParagraph(paragraphOf(block));
     for (auto at = block.begin(); !at.atEnd(); ++at) {
         writeCharacters(charactersOf(at.fragment().charFormat(), m_defaults));
-        m_body.addText(at.fragment().text());
+        writeText(at.fragment().text());
     }
     writeCharacters(charactersOf(block.charFormat(), m_defaults));
     // The last paragraph ends with the document; but where it is empty, that would end the one before.
     const bool last = !block.next().isValid();
     const bool needsMark = !last || (block.length() == 1 && block.position() > 0);
     if (needsMark) m_body.addCodes(u"\\par"_s);
+}
+
+void RtfWriter::writeText(const QString &text)
+{
+    // Blanks right behind the header are no text.
+    if (m_body.text().isEmpty() && text.startsWith(u' ')) m_body.addCodes(u"\\pard"_s);
+    m_body.addText(text);
 }
 
 void RtfWriter::writeParagraph(const RtfParagraph &wanted)

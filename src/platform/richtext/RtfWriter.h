@@ -19,6 +19,7 @@ private:
     QString header(double defaultTab) const;
     QString fontTable() const;
     void writeBlock(const QTextBlock &block);
+    void writeText(const QString &text);
     void writeParagraph(const RtfParagraph &wanted);
     void writeCharacters(const RtfCharacters &wanted);
     QString characterCodes(const RtfCharacters &from, const RtfCharacters &to);

@@ -10,8 +10,7 @@ namespace orvane
 QByteArray readWholeFile(const QString &fileName)
 {
     QFile file(fileName);
-    if (!file.exists())
-        throw RunTimeError(FileNotFound, QStringLiteral("The file \"%1\" isn't there.").arg(fileName));
+    if (!file.exists()) throw RunTimeError(FileNotFound, QStringLiteral("The file \"%1\" isn't there.").arg(fileName));
     if (!file.open(QIODevice::ReadOnly))
         throw RunTimeError(PathAccessError, QStringLiteral("The file \"%1\" can't be read.").arg(fileName));
     return file.readAll();

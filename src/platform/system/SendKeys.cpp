@@ -43,7 +43,8 @@ Stroke strokeOf(const QString &name, Qt::KeyboardModifiers modifiers)
 {
     if (name.size() > 1) return {namedKey(name), modifiers, {}};
     const bool typed = !(modifiers & (Qt::ControlModifier | Qt::AltModifier));
-    return {name.at(0).toUpper().unicode(), modifiers, typed ? name : QString()};
+    const QString text = modifiers & Qt::ShiftModifier ? name.toUpper() : name;
+    return {name.at(0).toUpper().unicode(), modifiers, typed ? text : QString()};
 }
 
 Qt::KeyboardModifier modifierOf(QChar mark)
@@ -85,6 +86,7 @@ std::vector<Stroke> strokesOf(const QString &keys)
         if (strokes.back().key == 0) refuse(keys);
         held = {};
     }
+    if (held != Qt::NoModifier) refuse(keys);
     return strokes;
 }
 } // namespace

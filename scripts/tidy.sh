@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Looks over source files with clang-tidy: tidy.sh [FILE...], all that the suite's build compiles where none is named.
+set -euo pipefail
+CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")/.."
+source scripts/dependencies.sh
+
+# A folder of its own: clang can't read the precompiled header that another compiler has built.
+folder=build/tidy
+
+generate() {
+    mkdir -p "$folder"
+    cmake --preset debug -B "$folder" >"$folder/configure.log"
+    ninja -C "$folder" -t targets all | sed -n 's/_autogen: phony$/_autogen/p' |
+        xargs cmake --build "$folder" --target >"$folder/generate.log"
+}
+
+compiled_files() {
+    sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$folder/compile_commands.json" | grep -v _autogen/ | sort -u
+}
+
+main() {
+    install_packages "${packages_build[@]}" "${packages_tidy[@]}"
+    generate
+    if (($#)); then printf '%s\n' "$@"; else compiled_files; fi |
+        xargs -d '\n' -n 1 -P "$(nproc)" clang-tidy -p "$folder" --quiet 2> >(grep -v ' generated\.$' >&2)
+}
+
+main "$@"
