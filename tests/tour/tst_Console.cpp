@@ -54,7 +54,7 @@ private slots:
     void theFirstClickShowsItsStepOnce();
     void aClickBeforeAnyStepBeginsTheTour();
     void aMutedFirstClickIsSpentAllTheSame();
-    void anotherButtonIsNoClick();
+    void theRightButtonIsNoClick();
     void nextOfTheStripEndsTheTour();
     void closeShowsItsStep();
     void quitEndsTheProgramAtOnce();
@@ -276,10 +276,10 @@ void tst_Console::aMutedFirstClickIsSpentAllTheSame()
     QCOMPARE(console().Tag(), u"101"_s);
 }
 
-void tst_Console::anotherButtonIsNoClick()
+void tst_Console::theRightButtonIsNoClick()
 {
     m_system->start();
-    QTest::mouseClick(&console().rtf.mouseTarget(), Qt::MiddleButton);
+    QTest::mouseClick(&console().rtf.mouseTarget(), Qt::RightButton);
     QCOMPARE(console().Tag(), u"101"_s);
     m_system->click(console().rtf);
     QCOMPARE(console().Tag(), u"102"_s);

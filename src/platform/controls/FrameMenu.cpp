@@ -5,6 +5,9 @@
 #include "platform/controls/BarLooks.h"
 #include "platform/controls/ToolAction.h"
 
+#include <QApplication>
+#include <QMouseEvent>
+
 namespace orvane
 {
 
@@ -26,10 +29,24 @@ void FrameMenu::showBar(ActiveBar &bar)
     entries->follow();
 }
 
+// The toolkit highlights a title under the mouse only while a menu is open.
+void FrameMenu::mouseMoveEvent(QMouseEvent *event)
+{
+    QMenuBar::mouseMoveEvent(event);
+    if (!QApplication::activePopupWidget()) tellTitle(actionAt(event->position().toPoint()));
+}
+
 void FrameMenu::leaveEvent(QEvent *event)
 {
     QMenuBar::leaveEvent(event);
-    if (m_bar && !activeAction()) m_bar->hover({});
+    tellTitle(activeAction());
+}
+
+void FrameMenu::tellTitle(QAction *title)
+{
+    const auto *action = qobject_cast<ToolAction *>(title);
+    const auto tool = action ? action->tool() : nullptr;
+    if (m_bar) m_bar->hover(tool ? tool->Description() : QString());
 }
 
 } // namespace orvane

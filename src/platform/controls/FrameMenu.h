@@ -19,9 +19,12 @@ public:
     void showBar(ActiveBar &bar);
 
 protected:
+    void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
 
 private:
+    void tellTitle(QAction *title);
+
     QPointer<ActiveBar> m_bar;
 };
 

@@ -1,6 +1,8 @@
 #include "platform/controls/RichEdit.h"
 
+#include <QImage>
 #include <QMouseEvent>
+#include <QTextDocument>
 #include <QUrl>
 
 namespace orvane
@@ -36,9 +38,13 @@ RichEdit::RichEdit()
     viewport()->setMouseTracking(true);
 }
 
-QVariant RichEdit::loadResource(int, const QUrl &)
+// An answer of nothing, or a picture that can't be read, would make the document look for the file itself.
+QVariant RichEdit::loadResource(int type, const QUrl &)
 {
-    return {};
+    if (type != QTextDocument::ImageResource) return QByteArray("");
+    QImage blank(1, 1, QImage::Format_ARGB32_Premultiplied);
+    blank.fill(Qt::transparent);
+    return blank;
 }
 
 void RichEdit::mouseReleaseEvent(QMouseEvent *event)
