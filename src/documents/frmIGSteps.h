@@ -3,12 +3,12 @@
 // The view on show is the checked tool of mnuNav; the state of the advice pane is the caption of ssPanel.
 #pragma once
 
-#include "platform/controls/ActiveBar.h"
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/Image.h"
 #include "platform/controls/PictureBox.h"
-#include "platform/controls/RichTextBox.h"
 #include "platform/controls/SSPanel.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/text/RichTextBox.h"
 #include "platform/controls/zelGradient.h"
 #include "platform/forms/MDIChild.h"
 

@@ -2,7 +2,7 @@
 // its four digits the window tells a link from its other tools.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 namespace orvane::layouts
 {

@@ -2,7 +2,7 @@
 // 0, tool 3.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 namespace orvane::layouts
 {

@@ -1,7 +1,7 @@
 // The page tools of an Environment Manual window. Bands and the three page tools are reached by index.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 namespace orvane::layouts
 {

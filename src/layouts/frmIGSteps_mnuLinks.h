@@ -1,7 +1,7 @@
 // Related topics, printing and Close of an Implementation Guide window. The print tools are reached by index: band 7.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 namespace orvane::layouts
 {

@@ -1,7 +1,7 @@
 // The view tools of an Implementation Guide window; the first four are reached by index.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 namespace orvane::layouts
 {

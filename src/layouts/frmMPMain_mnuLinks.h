@@ -1,7 +1,7 @@
 // Related topics, printing, the two versions and Close of a Management Procedures window.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 namespace orvane::layouts
 {

@@ -1,7 +1,7 @@
 // The page tools of a Management Procedures window. The blanks in the captions set the buttons' widths.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 namespace orvane::layouts
 {

@@ -1,7 +1,7 @@
 // The page tools of a Records window. They stand there for the likeness with the other windows and do nothing.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 namespace orvane::layouts
 {

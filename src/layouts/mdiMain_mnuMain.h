@@ -2,7 +2,7 @@
 // also pops up. mnuWindow is filled at run time. The bands have no design size; they take the size of their tools.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 namespace orvane::layouts
 {

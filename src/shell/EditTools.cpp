@@ -1,7 +1,7 @@
 // Cut, Copy and Paste as far as the active control and the clipboard allow them.
 
-#include "platform/controls/ActiveBar.h"
-#include "platform/controls/RichTextBox.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/text/RichTextBox.h"
 #include "platform/forms/DefaultInstance.h"
 #include "platform/forms/Screen.h"
 #include "platform/system/Guard.h"

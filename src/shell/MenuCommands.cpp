@@ -1,6 +1,6 @@
 // What the tools of the main menu do.
 
-#include "platform/controls/RichTextBox.h"
+#include "platform/controls/text/RichTextBox.h"
 #include "platform/forms/DefaultInstance.h"
 #include "platform/forms/MDIChild.h"
 #include "platform/forms/Screen.h"

@@ -6,7 +6,7 @@
 #include "documents/frmIGSteps.h"
 #include "documents/frmMPMain.h"
 #include "documents/frmRCMain.h"
-#include "platform/controls/Tool.h"
+#include "platform/controls/bars/Tool.h"
 #include "platform/forms/DefaultInstance.h"
 #include "platform/forms/WindowList.h"
 #include "platform/system/Host.h"

@@ -1,6 +1,6 @@
 // The frame's Window menu: one tool for each open window, numbered in their order.
 
-#include "platform/controls/ActiveBar.h"
+#include "platform/controls/bars/ActiveBar.h"
 #include "platform/forms/DefaultInstance.h"
 #include "shell/SharedState.h"
 #include "shell/mdiMain.h"

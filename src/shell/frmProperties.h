@@ -3,7 +3,7 @@
 
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/Label.h"
-#include "platform/controls/TextBox.h"
+#include "platform/controls/text/TextBox.h"
 #include "platform/forms/Window.h"
 
 namespace orvane

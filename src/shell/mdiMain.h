@@ -1,7 +1,7 @@
 // The frame. It refuses every close: what ends the program is the console's Quit.
 #pragma once
 
-#include "platform/controls/ActiveBar.h"
+#include "platform/controls/bars/ActiveBar.h"
 #include "platform/forms/MDIForm.h"
 
 namespace orvane

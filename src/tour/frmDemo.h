@@ -7,8 +7,8 @@
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/PictureBox.h"
-#include "platform/controls/RichTextBox.h"
-#include "platform/controls/TextBox.h"
+#include "platform/controls/text/RichTextBox.h"
+#include "platform/controls/text/TextBox.h"
 #include "platform/controls/zelFormLock.h"
 #include "platform/forms/Window.h"
 

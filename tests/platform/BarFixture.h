@@ -1,7 +1,7 @@
 // Bars, windows and small helpers that the tests of menus and toolbars share.
 #pragma once
 
-#include "platform/controls/ActiveBar.h"
+#include "platform/controls/bars/ActiveBar.h"
 #include "platform/forms/MDIChild.h"
 #include "platform/forms/MDIForm.h"
 #include "platform/forms/Window.h"

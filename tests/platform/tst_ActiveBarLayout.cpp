@@ -1,7 +1,7 @@
 #include "platform/BarFixture.h"
 
 #include "platform/controls/SSPanel.h"
-#include "platform/controls/StripFit.h"
+#include "platform/controls/bars/StripFit.h"
 
 #include <QSignalSpy>
 #include <algorithm>

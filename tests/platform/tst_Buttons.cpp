@@ -5,7 +5,7 @@
 #include "platform/controls/Image.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/SSRibbon.h"
-#include "platform/controls/TextBox.h"
+#include "platform/controls/text/TextBox.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;

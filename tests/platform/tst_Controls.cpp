@@ -2,12 +2,11 @@
 #include "platform/FormFixture.h"
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/ControlArray.h"
-#include "platform/controls/Frame.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/PictureBox.h"
 #include "platform/controls/SSPanel.h"
-#include "platform/controls/TextBox.h"
 #include "platform/controls/TimerControl.h"
+#include "platform/controls/text/TextBox.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;

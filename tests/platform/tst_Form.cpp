@@ -1,7 +1,6 @@
 // The life of a window: its events, in their order, and who knows of it.
 #include "platform/FormFixture.h"
 #include "platform/controls/CommandButton.h"
-#include "platform/controls/TextBox.h"
 #include "platform/forms/DefaultInstance.h"
 #include "platform/forms/WindowList.h"
 #include "platform/forms/Wiring.h"

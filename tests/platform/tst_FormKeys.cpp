@@ -1,7 +1,7 @@
 // A window's measures, its mouse pointer, and the keys that reach its handlers.
 #include "platform/FormFixture.h"
 #include "platform/controls/CommandButton.h"
-#include "platform/controls/TextBox.h"
+#include "platform/controls/text/TextBox.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;

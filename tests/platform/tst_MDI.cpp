@@ -1,6 +1,6 @@
 // The frame and the windows inside it.
 #include "platform/FormFixture.h"
-#include "platform/controls/TextBox.h"
+#include "platform/controls/text/TextBox.h"
 #include "platform/forms/MDIChild.h"
 #include "platform/forms/MDIForm.h"
 #include "platform/forms/WindowList.h"

@@ -1,7 +1,7 @@
 // Key strokes sent to the control that has the focus.
 #include "platform/FormFixture.h"
-#include "platform/controls/RichTextBox.h"
-#include "platform/controls/TextBox.h"
+#include "platform/controls/text/RichTextBox.h"
+#include "platform/controls/text/TextBox.h"
 #include "platform/system/SendKeys.h"
 
 #include <QClipboard>

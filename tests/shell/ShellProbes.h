@@ -1,9 +1,9 @@
 // Windows and notes by which the tests of the shell see what it does.
 #pragma once
 
-#include "platform/controls/RichTextBox.h"
-#include "platform/controls/TextBox.h"
-#include "platform/controls/zelRich.h"
+#include "platform/controls/text/RichTextBox.h"
+#include "platform/controls/text/TextBox.h"
+#include "platform/controls/text/zelRich.h"
 #include "platform/forms/MDIChild.h"
 #include "platform/forms/Screen.h"
 #include "platform/forms/Window.h"

@@ -1,7 +1,7 @@
 // What a user does to the bars of a window with the mouse: presses a tool's button, chooses from its flyout.
 #pragma once
 
-#include "platform/controls/ActiveBar.h"
+#include "platform/controls/bars/ActiveBar.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -2,8 +2,8 @@
 // and notes what reached them, in order.
 #pragma once
 
-#include "platform/controls/ActiveBar.h"
-#include "platform/controls/RichTextBox.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/text/RichTextBox.h"
 #include "platform/forms/DefaultInstance.h"
 #include "platform/forms/MDIChild.h"
 #include "shell/mdiMain.h"

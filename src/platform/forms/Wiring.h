@@ -1,7 +1,7 @@
 // Joins what a window's controls report to its handlers, and lists the handlers that others call by name.
 #pragma once
 
-#include "platform/controls/ActiveBar.h"
+#include "platform/controls/bars/ActiveBar.h"
 #include "platform/forms/Form.h"
 #include "platform/system/Guard.h"
 

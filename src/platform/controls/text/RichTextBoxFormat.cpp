@@ -1,7 +1,7 @@
 // The character and paragraph formats of a rich-text control's selection.
 
-#include "platform/controls/RichEdit.h"
-#include "platform/controls/RichTextBox.h"
+#include "platform/controls/text/RichEdit.h"
+#include "platform/controls/text/RichTextBox.h"
 #include "platform/system/RunTimeError.h"
 
 namespace orvane

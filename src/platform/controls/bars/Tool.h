@@ -1,7 +1,7 @@
 // One element of a band. Everything but the id and the category can be written at run time, and the bar follows.
 #pragma once
 
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/ToolTable.h"
 
 #include <QPointer>
 #include <QString>

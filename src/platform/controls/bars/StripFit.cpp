@@ -1,4 +1,4 @@
-#include "platform/controls/StripFit.h"
+#include "platform/controls/bars/StripFit.h"
 
 namespace orvane
 {

@@ -6,8 +6,8 @@
 #pragma once
 
 #include "platform/controls/Control.h"
-#include "platform/controls/Tool.h"
-#include "platform/controls/ToolTable.h"
+#include "platform/controls/bars/Tool.h"
+#include "platform/controls/bars/ToolTable.h"
 
 #include <QRectF>
 #include <memory>

@@ -1,7 +1,7 @@
-#include "platform/controls/ToolField.h"
+#include "platform/controls/bars/ToolField.h"
 
-#include "platform/controls/ActiveBar.h"
-#include "platform/controls/BarLooks.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/bars/BarLooks.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

@@ -1,4 +1,4 @@
-#include "platform/controls/ActiveBar.h"
+#include "platform/controls/bars/ActiveBar.h"
 #include "platform/system/RunTimeError.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
-#include "platform/controls/Tool.h"
+#include "platform/controls/bars/Tool.h"
 
-#include "platform/controls/ActiveBar.h"
+#include "platform/controls/bars/ActiveBar.h"
 #include "platform/system/RunTimeError.h"
 
 namespace orvane

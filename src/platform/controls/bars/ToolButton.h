@@ -4,7 +4,7 @@
 // press it; Down and Alt+Down open its menu.
 #pragma once
 
-#include "platform/controls/StripItem.h"
+#include "platform/controls/bars/StripItem.h"
 
 #include <QToolButton>
 

@@ -1,8 +1,8 @@
-#include "platform/controls/ToolButton.h"
+#include "platform/controls/bars/ToolButton.h"
 
-#include "platform/controls/BarLooks.h"
 #include "platform/controls/Palette.h"
-#include "platform/controls/Tool.h"
+#include "platform/controls/bars/BarLooks.h"
+#include "platform/controls/bars/Tool.h"
 
 #include <QKeyEvent>
 #include <QMenu>

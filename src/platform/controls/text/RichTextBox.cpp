@@ -1,6 +1,6 @@
-#include "platform/controls/RichTextBox.h"
+#include "platform/controls/text/RichTextBox.h"
 
-#include "platform/controls/RichEdit.h"
+#include "platform/controls/text/RichEdit.h"
 #include "platform/richtext/Rtf.h"
 #include "platform/system/RunTimeError.h"
 

@@ -1,8 +1,8 @@
-#include "platform/controls/BandActions.h"
+#include "platform/controls/bars/BandActions.h"
 
-#include "platform/controls/ActiveBar.h"
-#include "platform/controls/BarMenu.h"
-#include "platform/controls/ToolAction.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/bars/BarMenu.h"
+#include "platform/controls/bars/ToolAction.h"
 
 #include <QMenu>
 #include <algorithm>

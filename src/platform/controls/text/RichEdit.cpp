@@ -1,4 +1,4 @@
-#include "platform/controls/RichEdit.h"
+#include "platform/controls/text/RichEdit.h"
 
 #include <QImage>
 #include <QMouseEvent>

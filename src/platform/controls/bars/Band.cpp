@@ -1,5 +1,5 @@
-#include "platform/controls/ActiveBar.h"
-#include "platform/controls/BarMenu.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/bars/BarMenu.h"
 
 #include <QApplication>
 

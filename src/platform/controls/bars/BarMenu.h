@@ -1,8 +1,8 @@
 // A band on show as a menu. It is filled when it opens, and follows the tools while it is open.
 #pragma once
 
-#include "platform/controls/BandActions.h"
-#include "platform/controls/DropPlace.h"
+#include "platform/controls/bars/BandActions.h"
+#include "platform/controls/bars/DropPlace.h"
 
 #include <QMenu>
 

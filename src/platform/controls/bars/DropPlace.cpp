@@ -1,6 +1,6 @@
-#include "platform/controls/DropPlace.h"
+#include "platform/controls/bars/DropPlace.h"
 
-#include "platform/controls/LastInput.h"
+#include "platform/controls/bars/LastInput.h"
 
 #include <QApplication>
 #include <QCursor>

@@ -1,7 +1,7 @@
 // A rich-text box with a state of editing, in the windows whose documents have two versions.
 #pragma once
 
-#include "platform/controls/RichTextBox.h"
+#include "platform/controls/text/RichTextBox.h"
 
 namespace orvane
 {

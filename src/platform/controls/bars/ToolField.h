@@ -1,7 +1,7 @@
 // A combo or text tool: its caption as a label, and its field. What the user types stands in the tool at once.
 #pragma once
 
-#include "platform/controls/StripItem.h"
+#include "platform/controls/bars/StripItem.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -4,7 +4,7 @@
 // the rest stands at the end.
 #pragma once
 
-#include "platform/controls/StripFit.h"
+#include "platform/controls/bars/StripFit.h"
 
 #include <QPointer>
 #include <QWidget>

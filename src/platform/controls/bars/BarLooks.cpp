@@ -1,7 +1,7 @@
-#include "platform/controls/BarLooks.h"
+#include "platform/controls/bars/BarLooks.h"
 
 #include "platform/controls/Palette.h"
-#include "platform/controls/Tool.h"
+#include "platform/controls/bars/Tool.h"
 
 #include <QFile>
 #include <QWidget>

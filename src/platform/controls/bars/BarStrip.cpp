@@ -1,12 +1,12 @@
-#include "platform/controls/BarStrip.h"
+#include "platform/controls/bars/BarStrip.h"
 
 #include "platform/controls/AccessKey.h"
-#include "platform/controls/ActiveBar.h"
-#include "platform/controls/BarLooks.h"
-#include "platform/controls/BarMenu.h"
 #include "platform/controls/Palette.h"
-#include "platform/controls/ToolButton.h"
-#include "platform/controls/ToolField.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/bars/BarLooks.h"
+#include "platform/controls/bars/BarMenu.h"
+#include "platform/controls/bars/ToolButton.h"
+#include "platform/controls/bars/ToolField.h"
 
 #include <QEvent>
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
-#include "platform/controls/ToolAction.h"
+#include "platform/controls/bars/ToolAction.h"
 
-#include "platform/controls/ActiveBar.h"
-#include "platform/controls/BarLooks.h"
-#include "platform/controls/ToolField.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/bars/BarLooks.h"
+#include "platform/controls/bars/ToolField.h"
 
 namespace orvane
 {

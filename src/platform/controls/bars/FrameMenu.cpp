@@ -1,9 +1,9 @@
-#include "platform/controls/FrameMenu.h"
+#include "platform/controls/bars/FrameMenu.h"
 
-#include "platform/controls/ActiveBar.h"
-#include "platform/controls/BandActions.h"
-#include "platform/controls/BarLooks.h"
-#include "platform/controls/ToolAction.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/bars/BandActions.h"
+#include "platform/controls/bars/BarLooks.h"
+#include "platform/controls/bars/ToolAction.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -1,4 +1,4 @@
-#include "platform/controls/TextBox.h"
+#include "platform/controls/text/TextBox.h"
 
 #include "platform/controls/CaptionFont.h"
 

@@ -1,8 +1,8 @@
-#include "platform/controls/ActiveBar.h"
+#include "platform/controls/bars/ActiveBar.h"
 
-#include "platform/controls/BarStrip.h"
-#include "platform/controls/FrameMenu.h"
-#include "platform/controls/LastInput.h"
+#include "platform/controls/bars/BarStrip.h"
+#include "platform/controls/bars/FrameMenu.h"
+#include "platform/controls/bars/LastInput.h"
 #include "platform/forms/Form.h"
 #include "platform/system/RunTimeError.h"
 

@@ -1,4 +1,4 @@
-#include "platform/controls/LastInput.h"
+#include "platform/controls/bars/LastInput.h"
 
 #include <QCoreApplication>
 #include <QEvent>
