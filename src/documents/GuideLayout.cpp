@@ -51,6 +51,7 @@ void frmIGSteps::placeControls()
     cmdTipsClose.setToolTipText(QStringLiteral("Close the advice"));
     imgLogo.setPicture(QStringLiteral("logo"));
     imgLogo.setPurpose(QStringLiteral("orvane"));
+    imgLogo.ZOrderBack(); // the bar covers its foot
     rtfData.setPurpose(QStringLiteral("Page of the guide"));
     rtfTips.setPurpose(QStringLiteral("Advice"));
     mnuNav.setPurpose(QStringLiteral("Views of the step"));

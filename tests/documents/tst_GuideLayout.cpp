@@ -119,6 +119,7 @@ private slots:
     void aRefusedSizeStopsNoOtherStep();
     void thePageEndsAboveThePane();
     void closingThePaneGivesThePageItsRoom();
+    void theBarCoversTheFootOfTheLogo();
     void theWindowFollowsTheFrame();
     void theLayoutIsCalledByName();
     void thePartsAreInTheirContainers();
@@ -299,6 +300,20 @@ void tst_GuideLayout::closingThePaneGivesThePageItsRoom()
     QVERIFY(open.paneHidden());
     QCOMPARE(guide.rtfData.Height(), without);
     QCOMPARE(guide.rtfData.Top() + guide.rtfData.Height(), guide.ssMnuLinks.Top());
+}
+
+void tst_GuideLayout::theBarCoversTheFootOfTheLogo()
+{
+    const GuideWindow open;
+    frmIGSteps &guide = *open.guide;
+    QVERIFY(guide.imgLogo.Top() + guide.imgLogo.Height() > guide.ssMnu.Top());
+    const auto partAt = [&](int y) {
+        const QPoint place(guide.imgLogo.widget().geometry().center().x(), y);
+        return Control::of(guide.surface().childAt(place));
+    };
+    const int edge = guide.ssMnu.widget().y();
+    QCOMPARE(partAt(edge - 1), &guide.imgLogo);
+    QVERIFY(partAt(edge) == &guide.mnuNav || partAt(edge) == &guide.ssMnu);
 }
 
 void tst_GuideLayout::theWindowFollowsTheFrame()
