@@ -6,9 +6,10 @@ CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/build.sh
 
 fuzz_one() {
-    local name=$1 seconds=$2 corpus=build/fuzz/corpus/$1 log=build/fuzz/$1.log
+    local name=$1 seconds=$2 corpus=build/fuzz/corpus/$1 log=build/fuzz/$1.log words=()
+    [[ ! -f tests/fuzz/$name.dict ]] || words=("-dict=tests/fuzz/$name.dict")
     mkdir -p "$corpus" build/fuzz/found
-    if "build/fuzz/bin/fuzz_$name" -max_total_time="$seconds" -timeout=10 \
+    if "build/fuzz/bin/fuzz_$name" -max_total_time="$seconds" -timeout=10 "${words[@]}" \
         -artifact_prefix="build/fuzz/found/$name-" "$corpus" "tests/fuzz/corpus/$name" >"$log" 2>&1; then
         echo "fuzz_$name: $(tail -n 1 "$log")"
     else

@@ -76,9 +76,11 @@ void RtfReader::leaveGroup()
 {
     const RtfGroup left = std::exchange(m_group, std::move(m_outer.back()));
     m_outer.pop_back();
-    if (left.destination == RtfGroup::Fonts) m_fonts.endEntry();
     if (left.destination == m_group.destination) return;
-    if (left.destination == RtfGroup::Fonts) useFont(m_fonts.defaultFont());
+    if (left.destination == RtfGroup::Fonts) {
+        m_fonts.endEntry();
+        useFont(m_fonts.defaultFont());
+    }
     if (left.destination == RtfGroup::BulletDefinition) {
         m_group.paragraph.bullet = left.paragraph.bullet;
         m_group.paragraph.bulletIndent = left.paragraph.bulletIndent;

@@ -1,5 +1,6 @@
 #include "platform/richtext/RtfTables.h"
 
+#include "platform/richtext/RtfTokenizer.h"
 #include <algorithm>
 #include <utility>
 
@@ -18,6 +19,7 @@ int clampedPart(int value)
 
 void RtfFontTable::beginEntry(int number)
 {
+    endEntry();
     m_entryOpen = true;
     m_entryNumber = number;
     m_entry = {{}, m_documentCodePage};
@@ -40,7 +42,7 @@ void RtfFontTable::addText(QStringView text)
 void RtfFontTable::endEntry()
 {
     if (!std::exchange(m_entryOpen, false)) return;
-    m_entry.family = m_entry.family.trimmed();
+    m_entry.family = m_entry.family.simplified().removeIf([](QChar c) { return !isRtfTextCharacter(c.unicode()); });
     if (m_fonts.size() < MostFonts || m_fonts.contains(m_entryNumber)) m_fonts.insert(m_entryNumber, m_entry);
 }
 

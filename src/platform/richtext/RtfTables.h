@@ -21,7 +21,7 @@ public:
     void setDefaultNumber(int number) { m_defaultNumber = number; }
     void setDocumentCodePage(int codePage) { m_documentCodePage = codePage; }
 
-    // The pieces of one entry, in the order of the file.
+    // The pieces of one entry, in the order of the file. The next entry ends one that is still open.
     void beginEntry(int number);
     void setCharset(int charset);
     void addText(QStringView text);
