@@ -9,7 +9,7 @@ folder=build/tidy
 
 generate() {
     mkdir -p "$folder"
-    cmake --preset debug -B "$folder" >"$folder/configure.log"
+    cmake --preset debug -B "$folder" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >"$folder/configure.log"
     ninja -C "$folder" -t targets all | sed -n 's/_autogen: phony$/_autogen/p' |
         xargs cmake --build "$folder" --target >"$folder/generate.log"
 }
