@@ -97,7 +97,7 @@ inline void showActive(Form &form)
     QTRY_COMPARE(QApplication::activeWindow(), form.shell().window());
 }
 
-// How often each event of the log came, and in which order, of those that end in one of the words.
+// The events of the log that the pattern fits, in their order.
 inline QStringList eventsOf(const QString &event)
 {
     return eventLog().filter(QRegularExpression(QStringLiteral(" %1$").arg(event)));
