@@ -1,5 +1,6 @@
 // The rich-text control: its text, its selection, what it lets the user do, and what it tells of the mouse.
 #include "platform/FormFixture.h"
+#include "platform/controls/text/RichEdit.h"
 #include "platform/controls/text/RichTextBox.h"
 
 #include <QClipboard>
@@ -42,6 +43,10 @@ bool showsRed(QWidget &widget)
             if (shown.pixelColor(x, y) == QColor(Qt::red)) return true;
     return false;
 }
+
+struct PasteTarget : RichEdit {
+    using RichEdit::insertFromMimeData;
+};
 
 struct Mouse {
     int button = 0;
@@ -88,6 +93,8 @@ private slots:
     void nothingThatADocumentNamesIsLoaded();
     void aPictureThatADocumentNamesIsNotShown();
     void tabLeavesTheBox();
+    void pastingNothingChangesNothing();
+    void aBoxOfOneLineStaysOnOneLine();
 
 private:
     QTextEdit &edit() const { return static_cast<QTextEdit &>(m_window->box.widget()); }
@@ -473,6 +480,29 @@ void tst_RichTextBox::tabLeavesTheBox()
     QTest::keyClick(&edit(), Qt::Key_Tab);
     QCOMPARE(m_window->ActiveControl(), &other);
     QCOMPARE(box().Text(), QString());
+}
+
+// What a middle click pastes where nothing is selected anywhere.
+void tst_RichTextBox::pastingNothingChangesNothing()
+{
+    PasteTarget target;
+    target.setPlainText(u"kept"_s);
+    target.insertFromMimeData(nullptr);
+    QCOMPARE(target.toPlainText(), u"kept"_s);
+    QVERIFY(!target.document()->isUndoAvailable());
+}
+
+void tst_RichTextBox::aBoxOfOneLineStaysOnOneLine()
+{
+    box().setOneLine();
+    show();
+    QTest::keyClicks(&box().widget(), u"ab"_s);
+    QTest::keyClick(&box().widget(), Qt::Key_Return);
+    QTest::keyClick(&box().widget(), Qt::Key_Enter, Qt::ShiftModifier);
+    QCOMPARE(box().Text(), u"ab"_s);
+    QGuiApplication::clipboard()->setText(u"c\nd\r\n e"_s);
+    QTest::keyClick(&box().widget(), Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(box().Text(), u"abc d e"_s);
 }
 
 QTEST_MAIN(tst_RichTextBox)

@@ -1,6 +1,8 @@
 #include "platform/controls/text/RichEdit.h"
 
 #include <QImage>
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QTextDocument>
 #include <QUrl>
@@ -45,6 +47,33 @@ QVariant RichEdit::loadResource(int type, const QUrl &)
     QImage blank(1, 1, QImage::Format_ARGB32_Premultiplied);
     blank.fill(Qt::transparent);
     return blank;
+}
+
+void RichEdit::setOneLine()
+{
+    m_oneLine = true;
+    setLineWrapMode(NoWrap);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+// A middle click where nothing is selected anywhere has no source.
+void RichEdit::insertFromMimeData(const QMimeData *source)
+{
+    if (!source || source->formats().isEmpty()) return;
+    if (m_oneLine)
+        insertPlainText(source->text().simplified());
+    else
+        QTextEdit::insertFromMimeData(source);
+}
+
+// Enter goes to the window's default button.
+void RichEdit::keyPressEvent(QKeyEvent *event)
+{
+    if (m_oneLine && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        event->ignore();
+    else
+        QTextEdit::keyPressEvent(event);
 }
 
 void RichEdit::mouseReleaseEvent(QMouseEvent *event)

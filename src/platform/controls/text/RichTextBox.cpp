@@ -113,9 +113,7 @@ void RichTextBox::setGround(const QColor &ground, int margin)
 
 void RichTextBox::setOneLine()
 {
-    m_edit.setLineWrapMode(QTextEdit::NoWrap);
-    m_edit.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_edit.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_edit.setOneLine();
 }
 
 void RichTextBox::setFont(const QString &family, double points, bool bold)

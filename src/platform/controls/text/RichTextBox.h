@@ -51,7 +51,7 @@ public:
     void setLocked(bool locked);                                   // read, select and copy only
     void setFont(const QString &family, double points, bool bold); // of plain text
     void setGround(const QColor &ground, int margin);              // colour and pixels round the text
-    void setOneLine();                                             // no scroll bars, no wrapping
+    void setOneLine();                                             // no scroll bars, wrapping or second paragraph
 
 signals:
     void Click();

@@ -29,7 +29,8 @@ TextBox::TextBox(Container &parent, const QString &name, Lines lines)
 
 QString TextBox::Text() const
 {
-    return m_line ? m_line->text() : m_lines->toPlainText();
+    if (m_line) return m_line->text();
+    return m_lines->toPlainText().replace(u'\n', QStringLiteral("\r\n"));
 }
 
 void TextBox::setText(const QString &text)

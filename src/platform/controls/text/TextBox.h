@@ -18,7 +18,7 @@ public:
 
     TextBox(Container &parent, const QString &name, Lines lines = OneLine);
 
-    QString Text() const;
+    QString Text() const; // lines end with CR LF, whatever line ends were put
     void setText(const QString &text);
     void setFont(const QString &family, double points, bool bold);
     void setColours(const QColor &ground, const QColor &text);
