@@ -40,6 +40,8 @@ private slots:
     void theFirstBandHidesTheBar();
     void anUnplacedBarFillsItsPanel();
     void anUnplacedBarLiesAtAnEdge();
+    void barsOnAWindowTakeTheirRoomFromItsInside();
+    void aHiddenBarGivesItsRoomBack();
     void aPlacedBarStays();
 };
 
@@ -164,6 +166,36 @@ void tst_ActiveBarLayout::anUnplacedBarLiesAtAnEdge()
     bar.Bands(0).setDockingArea(DockedBottom);
     QCOMPARE(bar.widget().geometry().bottom(), window.surface().height() - 1);
     QCOMPARE(bar.widget().height(), height);
+}
+
+void tst_ActiveBarLayout::barsOnAWindowTakeTheirRoomFromItsInside()
+{
+    BarWindow window;
+    window.open();
+    const double height = window.ScaleHeight();
+    SSPanel panel(window, u"pnl"_s);
+    panel.Move(0, 0, 1500, 300);
+    ActiveBar upper(window, u"mnuNav"_s, LinkBands);
+    ActiveBar lower(window, u"mnuLinks"_s, LinkBands);
+    lower.Bands(0).setDockingArea(DockedBottom);
+    QCOMPARE(window.ScaleHeight(), height - upper.Height() - lower.Height());
+    QCOMPARE(panel.Top(), 0.0);
+    QCOMPARE(panel.widget().y(), upper.widget().geometry().bottom() + 1);
+    window.setHeight(window.Height() + 1500);
+    QCOMPARE(lower.widget().geometry().bottom(), window.surface().height() - 1);
+    QCOMPARE(upper.widget().y(), 0);
+}
+
+void tst_ActiveBarLayout::aHiddenBarGivesItsRoomBack()
+{
+    BarWindow window;
+    const double height = window.ScaleHeight();
+    ActiveBar bar(window, u"mnuNav"_s, LinkBands);
+    QVERIFY(window.ScaleHeight() < height);
+    bar.Bands(0).setVisible(false);
+    QCOMPARE(window.ScaleHeight(), height);
+    bar.Bands(0).setVisible(true);
+    QCOMPARE(window.ScaleHeight(), height - bar.Height());
 }
 
 void tst_ActiveBarLayout::aPlacedBarStays()

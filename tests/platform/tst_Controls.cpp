@@ -37,6 +37,7 @@ private slots:
     void aWidgetFindsItsControl();
     void aWindowFindsItsControlsByName();
     void anUnknownPointerIsRefused();
+    void aPictureOfPixelsFillsItsBox();
     void anArrayKnowsItsElementsByIndex();
     void aMissingElementIsRefused();
     void aTimerTicksWhileItIsEnabled();
@@ -277,6 +278,20 @@ void tst_Controls::anUnknownPointerIsRefused()
     QCOMPARE(errorOf([&] { label.setMousePointer(2); }), int(InvalidPropertyValue));
     QCOMPARE(label.MousePointer(), int(ArrowQuestionPointer));
     QCOMPARE(label.widget().cursor().shape(), Qt::WhatsThisCursor);
+}
+
+void tst_Controls::aPictureOfPixelsFillsItsBox()
+{
+    PictureBox box(*m_window, u"picf1"_s);
+    QVERIFY(box.Picture().image().isNull());
+    QImage pixels(4, 2, QImage::Format_RGB32);
+    pixels.fill(Qt::blue);
+    box.Move(0, 0, 600, 300);
+    box.setPicture(PictureObject(pixels));
+    QCOMPARE(box.Picture().image(), pixels);
+    const QImage shown = box.widget().grab().toImage();
+    QCOMPARE(shown.pixelColor(0, 0), QColor(Qt::blue));
+    QCOMPARE(shown.pixelColor(shown.width() - 1, shown.height() - 1), QColor(Qt::blue));
 }
 
 void tst_Controls::anArrayKnowsItsElementsByIndex()

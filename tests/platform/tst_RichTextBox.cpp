@@ -67,6 +67,7 @@ private slots:
     void putTextIsReadBackAndTheCaretIsAtItsStart();
     void whatIsNoRichTextIsShownAsItIs();
     void putPlainTextReplacesTheDocument();
+    void richTextIsPutInThePlaceOfTheSelection();
     void textAndSelectionCountTheSameCharacters();
     void aSelectionIsKeptWithinTheText();
     void lockedRefusesTyping_data();
@@ -148,6 +149,22 @@ void tst_RichTextBox::putPlainTextReplacesTheDocument()
     box().setText(u"three"_s);
     QCOMPARE(box().Text(), u"three"_s);
     QCOMPARE(box().SelStart(), 0);
+}
+
+void tst_RichTextBox::richTextIsPutInThePlaceOfTheSelection()
+{
+    box().setText(u"one two three"_s);
+    box().setSelStart(4);
+    box().setSelLength(3);
+    box().setSelRTF(u"{\\rtf1 {\\b X}}"_s);
+    QCOMPARE(box().Text(), u"one X three"_s);
+    QCOMPARE(box().SelStart(), 5);
+    QCOMPARE(box().SelLength(), 0);
+    box().setSelRTF(u"{\\rtf1 Y}"_s);
+    QCOMPARE(box().Text(), u"one XY three"_s);
+    box().setSelStart(4);
+    box().setSelLength(1);
+    QVERIFY(box().SelBold());
 }
 
 void tst_RichTextBox::textAndSelectionCountTheSameCharacters()

@@ -49,6 +49,8 @@ private slots:
     void textsThatAreNoNumbers();
     void integersAreRounded_data();
     void integersAreRounded();
+    void aNumberIsReadUpToWhatIsNone_data();
+    void aNumberIsReadUpToWhatIsNone();
     void aMessageWithoutTitleBearsTheProgramsOwn();
     void theMachinesMessageBox_data();
     void theMachinesMessageBox();
@@ -203,6 +205,30 @@ void tst_System::integersAreRounded()
     int read = 0;
     QCOMPARE(errorOf([&] { read = toInteger(text); }), error);
     QCOMPARE(read, value);
+}
+
+void tst_System::aNumberIsReadUpToWhatIsNone_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("number");
+    QTest::newRow("percent") << u"75%"_s << 75.0;
+    QTest::newRow("fraction") << u" 75.6 %"_s << 75.6;
+    QTest::newRow("point first") << u".5"_s << 0.5;
+    QTest::newRow("point last") << u"12."_s << 12.0;
+    QTest::newRow("negative") << u"-1"_s << -1.0;
+    QTest::newRow("sign alone") << u"-"_s << 0.0;
+    QTest::newRow("letters first") << u"p3"_s << 0.0;
+    QTest::newRow("letters behind") << u"3rd"_s << 3.0;
+    QTest::newRow("two points") << u"1.2.3"_s << 1.2;
+    QTest::newRow("comma") << u"1,5"_s << 1.0;
+    QTest::newRow("nothing") << u""_s << 0.0;
+    QTest::newRow("other digits") << u"\u0663"_s << 0.0;
+}
+
+void tst_System::aNumberIsReadUpToWhatIsNone()
+{
+    QFETCH(QString, text);
+    QTEST(leadingNumber(text), "number");
 }
 
 void tst_System::aMessageWithoutTitleBearsTheProgramsOwn()

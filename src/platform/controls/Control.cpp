@@ -45,27 +45,27 @@ Control *Control::of(QWidget *widget)
 void Control::setLeft(double twips)
 {
     m_left = twips;
-    place();
+    put();
 }
 
 void Control::setTop(double twips)
 {
     m_top = twips;
-    place();
+    put();
 }
 
 void Control::setWidth(double twips)
 {
     refuseNegative(twips);
     m_width = twips;
-    place();
+    put();
 }
 
 void Control::setHeight(double twips)
 {
     refuseNegative(twips);
     m_height = twips;
-    place();
+    put();
 }
 
 void Control::Move(double left, double top, double width, double height)
@@ -76,12 +76,26 @@ void Control::Move(double left, double top, double width, double height)
     m_top = top;
     m_width = width;
     m_height = height;
+    put();
+}
+
+void Control::put()
+{
     place();
+    moved();
+}
+
+QRect Control::room() const
+{
+    QWidget *container = m_widget->parentWidget();
+    return container == &m_form.surface() ? m_form.inside() : container->rect();
 }
 
 void Control::place()
 {
-    m_widget->setGeometry(toPixels(m_left), toPixels(m_top), toPixels(m_width), toPixels(m_height));
+    const QPoint corner = room().topLeft();
+    m_widget->setGeometry(corner.x() + toPixels(m_left), corner.y() + toPixels(m_top), toPixels(m_width),
+                          toPixels(m_height));
 }
 
 void Control::setAlign(Alignments align)
@@ -94,9 +108,9 @@ void Control::setAlign(Alignments align)
 
 void Control::cling()
 {
-    const QSize room = m_widget->parentWidget()->size();
-    const double height = m_align == AlignedBottom ? m_height : toTwips(room.height());
-    Move(0, toTwips(room.height()) - height, toTwips(room.width()), height);
+    const double roomHeight = toTwips(room().height());
+    const double height = m_align == AlignedBottom ? m_height : roomHeight;
+    Move(0, roomHeight - height, toTwips(room().width()), height);
 }
 
 bool Control::eventFilter(QObject *watched, QEvent *event)

@@ -88,7 +88,13 @@ protected:
     virtual QWidget &voice() const { return *m_widget; }
     virtual QWidget &focusTarget() const { return voice(); }
 
+    virtual void moved() {} // the control was given another place
+
 private:
+    friend class Form; // places its controls anew when its inside moves
+
+    QRect room() const; // of its container, in that one's pixels
+    void put();
     void place();
     void cling();
 

@@ -15,6 +15,16 @@ void PictureBox::setPicture(const QString &name)
     m_view.setPicture(name);
 }
 
+PictureObject PictureBox::Picture() const
+{
+    return m_view.pixels();
+}
+
+void PictureBox::setPicture(const PictureObject &picture)
+{
+    m_view.setPixels(picture);
+}
+
 void PictureBox::setBackColor(const QColor &colour)
 {
     QPalette palette = m_view.palette();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/controls/Control.h"
+#include "platform/controls/PictureObject.h"
 
 namespace orvane
 {
@@ -15,7 +16,9 @@ class PictureBox : public Control, public Container
 public:
     PictureBox(Container &parent, const QString &name);
 
-    void setPicture(const QString &name); // a file under pictures/, without its ending
+    void setPicture(const QString &name); // a drawing: a file under pictures/, without its ending
+    PictureObject Picture() const;        // of pixels; blank where there is none
+    void setPicture(const PictureObject &picture);
     void setBackColor(const QColor &colour);
 
     QWidget &surface() override { return widget(); }

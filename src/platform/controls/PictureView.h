@@ -1,7 +1,8 @@
-// Shows a drawing of the program, sharp at every scale.
+// Shows a drawing of the program, sharp at every scale, or a picture of pixels as large as the view.
 #pragma once
 
 #include "platform/controls/Drawing.h"
+#include "platform/controls/PictureObject.h"
 
 #include <QWidget>
 
@@ -17,6 +18,9 @@ public:
 
     void setPicture(const QString &name); // a file under pictures/, without its ending
 
+    const PictureObject &pixels() const { return m_pixels; }
+    void setPixels(const PictureObject &picture);
+
 signals:
     void clicked();
 
@@ -26,6 +30,7 @@ protected:
 
 private:
     Drawing m_drawing;
+    PictureObject m_pixels;
 };
 
 } // namespace orvane

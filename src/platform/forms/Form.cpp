@@ -114,12 +114,40 @@ void Form::setHeight(double twips)
 
 double Form::ScaleWidth() const
 {
-    return toTwips(m_surface->width());
+    return toTwips(inside().width());
 }
 
 double Form::ScaleHeight() const
 {
-    return toTwips(m_surface->height());
+    return toTwips(inside().height());
+}
+
+int Form::dockedHeight(bool atFoot) const
+{
+    int height = 0;
+    for (const DockedBar &docked : m_dockedBars)
+        if (docked.atFoot == atFoot) height += docked.height;
+    return height;
+}
+
+QRect Form::inside() const
+{
+    return m_surface->rect().adjusted(0, dockedHeight(false), 0, -dockedHeight(true));
+}
+
+QRect Form::dock(const Control &bar, bool atFoot, int height)
+{
+    const QRect before = inside();
+    std::erase_if(m_dockedBars, [&](const DockedBar &docked) { return docked.bar == &bar; });
+    const int taken = dockedHeight(atFoot);
+    m_dockedBars.push_back({&bar, atFoot, height});
+    if (inside() != before) {
+        for (Control *control : m_controls)
+            control->place();
+        if (m_loaded) guarded([this] { Form_Resize(); });
+    }
+    const int top = atFoot ? m_surface->height() - taken - height : taken;
+    return {0, top, m_surface->width(), height};
 }
 
 int Form::WindowState() const
@@ -146,6 +174,8 @@ void Form::applyState()
         m_shell->showMaximized();
         break;
     default:
+        // Brought back from the taskbar a window takes the focus, and mapped anew only if it is meant to.
+        if (m_shell->isMinimized() && m_shell->testAttribute(Qt::WA_ShowWithoutActivating)) m_shell->hide();
         m_shell->showNormal();
         break;
     }
@@ -259,6 +289,11 @@ void Form::SetFocus()
     activated();
 }
 
+void Form::Refresh()
+{
+    m_surface->repaint();
+}
+
 Control *Form::ActiveControl() const
 {
     return Control::of(m_shell->focusWidget());
@@ -288,6 +323,7 @@ void Form::adopt(Control &control)
 void Form::release(Control &control)
 {
     std::erase(m_controls, &control);
+    std::erase_if(m_dockedBars, [&](const DockedBar &docked) { return docked.bar == &control; });
 }
 
 void Form::Form_QueryUnload(bool &, int) {}

@@ -51,6 +51,13 @@ public:
     double ScaleWidth() const;
     double ScaleHeight() const;
 
+    // What bars at the edges of the surface leave to the other controls, in pixels of the surface. Controls are placed
+    // from its corner.
+    QRect inside() const;
+    // Gives a bar its place at the upper or lower edge, behind those that came before it, in pixels of the surface. A
+    // height of none gives the room back.
+    QRect dock(const Control &bar, bool atFoot, int height);
+
     int WindowState() const;
     virtual void setWindowState(int state);
     bool Visible() const;
@@ -66,6 +73,7 @@ public:
     virtual void Hide();
     bool Unload(int mode = ByCode); // false where QueryUnload or Unload refused
     virtual void SetFocus();
+    void Refresh(); // paints the inside anew, at once
 
     Control *ActiveControl() const; // the control that has the focus in this window, or nullptr
     Control *control(const QString &name) const;
@@ -107,6 +115,13 @@ protected:
     void deactivated();
 
 private:
+    struct DockedBar {
+        const Control *bar;
+        bool atFoot;
+        int height; // pixels
+    };
+
+    int dockedHeight(bool atFoot) const;
     bool refusesUnload(int mode);
     void closeAsked(QCloseEvent &event);
     void stateChanged();
@@ -119,6 +134,7 @@ private:
     QPointer<QWidget> m_focusRest;
     NameTable m_names;
     std::vector<Control *> m_controls;
+    std::vector<DockedBar> m_dockedBars;
     QString m_caption;
     QString m_tag;
     double m_width = 0; // as set; the shell's own measures count as soon as they differ by a pixel

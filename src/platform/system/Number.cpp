@@ -3,6 +3,7 @@
 #include "platform/system/RunTimeError.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <cmath>
 #include <limits>
 
@@ -24,6 +25,12 @@ int toInteger(const QString &text)
     if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
         throw RunTimeError(Overflow, QStringLiteral("The number %1 is too large.").arg(text.left(80)));
     return static_cast<int>(value);
+}
+
+double leadingNumber(const QString &text)
+{
+    static const QRegularExpression start(QStringLiteral(R"(^\s*([+-]?(?:[0-9]+\.?[0-9]*|\.[0-9]+)))"));
+    return QLocale::c().toDouble(start.match(text).captured(1));
 }
 
 } // namespace orvane

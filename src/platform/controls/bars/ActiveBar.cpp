@@ -113,16 +113,46 @@ bool ActiveBar::eventFilter(QObject *watched, QEvent *event)
     return Control::eventFilter(watched, event);
 }
 
-// A container that is hardly higher than the bar is there for it alone, and is filled.
 void ActiveBar::dock()
 {
-    if (!m_strip || QRectF(Left(), Top(), Width(), Height()) != m_docked) return;
+    if (!m_strip || hasOwnPlace()) return;
+    const QRect place = isOnWindow() ? placeOnWindow() : placeInContainer();
+    const int corner = isOnWindow() ? form().inside().top() : 0;
+    m_docked =
+        QRectF(toTwips(place.left()), toTwips(place.top() - corner), toTwips(place.width()), toTwips(place.height()));
+    Move(m_docked.left(), m_docked.top(), m_docked.width(), m_docked.height());
+}
+
+void ActiveBar::moved()
+{
+    if (m_strip && isOnWindow() && hasOwnPlace()) form().dock(*this, false, 0);
+}
+
+bool ActiveBar::isOnWindow() const
+{
+    return &m_container == &form().surface();
+}
+
+bool ActiveBar::hasOwnPlace() const
+{
+    return QRectF(Left(), Top(), Width(), Height()) != m_docked;
+}
+
+// The window's inside ends where the bar begins.
+QRect ActiveBar::placeOnWindow()
+{
+    const int height = Bands(0).Visible() ? m_strip->sizeHint().height() : 0;
+    return form().dock(*this, Bands(0).DockingArea() == DockedBottom, height);
+}
+
+// A container that is hardly higher than the bar is there for it alone, and is filled.
+QRect ActiveBar::placeInContainer() const
+{
     const QRect room = m_container.contentsRect();
     const int wanted = m_strip->sizeHint().height();
     const int height = room.height() < 2 * wanted ? room.height() : wanted;
     const int top = Bands(0).DockingArea() == DockedBottom ? room.bottom() + 1 - height : room.top();
-    m_docked = QRectF(toTwips(room.left()), toTwips(top), toTwips(room.width()), toTwips(height));
-    Move(m_docked.left(), m_docked.top(), m_docked.width(), m_docked.height());
+    return {room.left(), top, room.width(), height};
 }
 
 } // namespace orvane

@@ -92,7 +92,8 @@ public:
     enum Look { MenuBar, ToolBar };
 
     // A bar with the menu-bar look becomes the menu of the frame that is its parent. A toolbar fills its container, or
-    // lies at one of its edges, until it is given a place. A flyout that names no band is refused with error 9.
+    // lies at one of its edges, until it is given a place; at the edge of a window it takes its room from the inside. A
+    // flyout that names no band is refused with error 9.
     ActiveBar(Container &parent, const QString &name, BarTable table, Look look = ToolBar);
     ~ActiveBar() override;
 
@@ -118,9 +119,16 @@ signals:
     void KeyPress(orvane::Tool *tool, int keyAscii);
     void Changed(); // of tools or bands; for the views
 
+protected:
+    void moved() override;
+
 private:
     void requireFlyouts() const;
     void dock();
+    bool isOnWindow() const;
+    bool hasOwnPlace() const;
+    QRect placeOnWindow();
+    QRect placeInContainer() const;
 
     std::vector<std::unique_ptr<Band>> m_bands;
     QPointer<BarStrip> m_strip; // of a toolbar

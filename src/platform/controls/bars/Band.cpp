@@ -28,7 +28,9 @@ bool Band::isFirst() const
 void Band::setVisible(bool visible)
 {
     m_visible = visible;
-    if (isFirst()) m_bar.setVisible(visible);
+    if (!isFirst()) return;
+    m_bar.setVisible(visible);
+    m_bar.dock();
 }
 
 void Band::setDockingArea(int area)

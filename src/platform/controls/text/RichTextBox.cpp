@@ -7,6 +7,7 @@
 #include <QFrame>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <algorithm>
 
 namespace orvane
@@ -42,6 +43,14 @@ void RichTextBox::setTextRTF(const QString &rtf)
 {
     readRtf(rtf, *m_edit.document());
     m_edit.moveCursor(QTextCursor::Start);
+}
+
+void RichTextBox::setSelRTF(const QString &rtf)
+{
+    QTextDocument piece;
+    piece.setDefaultFont(m_edit.document()->defaultFont());
+    readRtf(rtf, piece);
+    m_edit.textCursor().insertFragment(QTextDocumentFragment(&piece));
 }
 
 QString RichTextBox::Text() const

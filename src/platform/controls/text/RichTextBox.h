@@ -23,6 +23,7 @@ public:
     // plain text.
     QString TextRTF() const;
     void setTextRTF(const QString &rtf);
+    void setSelRTF(const QString &rtf); // in the place of the selection; the caret comes behind it
     QString Text() const;
     void setText(const QString &text);
 
