@@ -3,6 +3,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QTest>
+#include <QTextList>
 #include <QTextLayout>
 
 using namespace Qt::Literals::StringLiterals;
