@@ -1,7 +1,7 @@
 // Each piece of advice is one numbered paragraph under the number of its action. It opens with a word of its own, not
 // with the action's key word, which stands over the pane already.
-#include "Advice.h"
-#include "PageChunks.h"
+#include "documents/pages/Advice.h"
+#include "documents/pages/PageChunks.h"
 
 #include <array>
 

@@ -1,20 +1,13 @@
-#include "GuidePages.h"
-#include "PageChunks.h"
+#include "documents/pages/GuidePages.h"
+#include "documents/pages/PageChunks.h"
 
 namespace orvane::pages
 {
 
-namespace
-{
-
-constexpr QStringView UntabbedParagraph = uR"(\par \pard\tx360\plain\f2\fs24)"; // left empty
-
-} // namespace
-
 QString stepRequirementBody()
 {
     return join(
-        {FirstParagraph, LargeBold, u"ISO 14001  Section 4.4.7", UntabbedParagraph,
+        {FirstParagraph, LargeBold, u"ISO 14001  Section 4.4.7", TabResettingParagraph,
 
          FirstBullet, BoldOn, u"Identify", BodyRun,
          (u" what could go wrong. Go through the whole site and everything that is done there, and look for accidents "

@@ -1,5 +1,5 @@
-#include "GuidePages.h"
-#include "PageChunks.h"
+#include "documents/pages/GuidePages.h"
+#include "documents/pages/PageChunks.h"
 
 namespace orvane::pages
 {

@@ -1,7 +1,7 @@
 // The advice pane finds an action by the number of dot-and-tab pairs up to the caret, and takes its title from the word
 // between the tab and the next blank: no sentence here may hold such a pair, and a blank follows each key word.
-#include "GuidePages.h"
-#include "PageChunks.h"
+#include "documents/pages/GuidePages.h"
+#include "documents/pages/PageChunks.h"
 
 namespace orvane::pages
 {
