@@ -77,7 +77,7 @@ void frmSplash::dressLabels()
     lblUserName.setFont(QStringLiteral("Arial"), 9.75, true);
     lblCopyright.setCaption(QStringLiteral("This program, its texts and its pictures are protected by copyright."));
     lblWarning.setCaption(
-        QStringLiteral("Please don't pass on copies unless your licence allows it. The sample documents "
+        QStringLiteral("Please don't pass on copies unless your license allows it. The sample documents "
                        "are for guidance: check them against the law and the standard that apply to "
                        "your organization before you rely on them."));
 }

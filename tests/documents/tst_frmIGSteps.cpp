@@ -1,6 +1,7 @@
 // The guide's window: which page a section shows, its part in the window list, and the tools that change the view.
 #include "documents/GuideWindow.h"
 
+#include "command_center/OrderLog.h"
 #include "command_center/frmError.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -56,9 +57,14 @@ private slots:
     void aWindowThatGoesLeavesTheWindowList();
     void theFrameNamesTheModule();
     void unloadingHidesTheBarFirst();
+    void unloadingGoesInItsOrder();
 
     void aViewToolReportsAndShowsItsPage_data();
     void aViewToolReportsAndShowsItsPage();
+    void aViewToolIsCheckedThenReportedThenItsPageShown_data();
+    void aViewToolIsCheckedThenReportedThenItsPageShown();
+    void thePaneClosesBeforeAnotherPageComes_data();
+    void thePaneClosesBeforeAnotherPageComes();
     void aViewToolChecksItselfAlone_data();
     void aViewToolChecksItselfAlone();
     void aViewToolIsPressedByKeys();
@@ -273,6 +279,21 @@ void tst_frmIGSteps::unloadingHidesTheBarFirst()
     QVERIFY(open.guide->Unloaded());
 }
 
+void tst_frmIGSteps::unloadingGoesInItsOrder()
+{
+    const GuideWindow open;
+    const FormPin pin(*open.guide);
+    const QString tag = open.guide->Tag();
+    OrderLog log;
+    log.lookAt(open.guide->mnuLinks, &ActiveBar::Changed);
+    log.lookAt(open.system.frame().mnuMain, &ActiveBar::Changed);
+    log.watch(u"listed no more"_s, [&] { return !windowTools(open.system).contains(tag); });
+    log.watch(u"off the screen"_s, [&] { return !open.guide->Visible(); });
+    log.watch(u"bar hidden"_s, [&] { return !open.guide->mnuLinks.Bands(0).Visible(); });
+    open.guide->Unload();
+    QCOMPARE(log.order(), (QStringList{u"bar hidden"_s, u"off the screen"_s, u"listed no more"_s}));
+}
+
 void tst_frmIGSteps::aViewToolReportsAndShowsItsPage_data()
 {
     QTest::addColumn<QString>("tool");
@@ -296,6 +317,47 @@ void tst_frmIGSteps::aViewToolReportsAndShowsItsPage()
     QCOMPARE(open.tags->tags(), QStringList(tag));
     QVERIFY2(open.guide->rtfData.Text().startsWith(opening), qPrintable(open.guide->rtfData.Text()));
     QCOMPARE(open.guide->pnlNumber.Caption(), u"Phase II"_s);
+}
+
+void tst_frmIGSteps::aViewToolIsCheckedThenReportedThenItsPageShown_data()
+{
+    aViewToolChecksItselfAlone_data();
+}
+
+void tst_frmIGSteps::aViewToolIsCheckedThenReportedThenItsPageShown()
+{
+    QFETCH(QString, tool);
+    const GuideWindow open;
+    open.press(tool == u"Requirement"_s ? u"Procedure"_s : u"Requirement"_s);
+    QStringList seen;
+    const QObject context;
+    const auto note = [&](const QString &what) { seen << what + u' ' + open.checkedTools().join(u'+'); };
+    connect(&open.system.console().rtf, &RichTextBox::Change, &context, [&] { note(u"report"_s); });
+    connect(&open.guide->rtfData, &RichTextBox::Change, &context, [&] { note(u"page"_s); });
+    open.press(tool);
+    QVERIFY(seen.size() >= 2);
+    QCOMPARE(seen.first(), u"report "_s + tool);
+    QCOMPARE(seen.at(1), u"page "_s + tool);
+}
+
+void tst_frmIGSteps::thePaneClosesBeforeAnotherPageComes_data()
+{
+    QTest::addColumn<QString>("tool");
+    for (const char *tool : {"Requirement", "Procedure"})
+        QTest::newRow(tool) << QString::fromLatin1(tool);
+}
+
+void tst_frmIGSteps::thePaneClosesBeforeAnotherPageComes()
+{
+    QFETCH(QString, tool);
+    const GuideWindow open;
+    open.press(u"Implementation"_s);
+    QVERIFY(open.paneShown());
+    QList<bool> closed;
+    const QObject context;
+    connect(&open.guide->rtfData, &RichTextBox::Change, &context, [&] { closed << open.paneHidden(); });
+    open.press(tool);
+    QCOMPARE(closed, QList<bool>{true});
 }
 
 void tst_frmIGSteps::aViewToolChecksItselfAlone_data()

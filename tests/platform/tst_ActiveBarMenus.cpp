@@ -73,6 +73,7 @@ private slots:
     void addedToolsAreThereWhenTheMenuOpensAgain();
     void aBandWithoutToolsOpensNothing();
     void changesAreSeenInAnOpenMenu();
+    void barAndMenusAreInArial();
     void aToolThatComesOrGoesIsSeenInAnOpenMenu();
     void anOpenSubMenuClosesWithItsTool();
     void aToolMayBeRemovedByItsOwnClick();
@@ -490,6 +491,15 @@ void tst_ActiveBarMenus::aPopupSurvivesTheEndOfItsBar()
     window.bar->Bands(u"subRelated"_s).PopupMenu(-1, -1);
     QVERIFY(!window.bar);
     QVERIFY(!QApplication::activePopupWidget());
+}
+
+void tst_ActiveBarMenus::barAndMenusAreInArial()
+{
+    OpenFrame open;
+    QCOMPARE(open.menuBar().font().family(), u"Arial"_s);
+    const QMenu *menu = open.openByMouse(u"mnuFile"_s);
+    QVERIFY(menu);
+    QCOMPARE(menu->font().family(), u"Arial"_s);
 }
 
 QTEST_MAIN(tst_ActiveBarMenus)

@@ -34,6 +34,8 @@ private slots:
     void aDisabledToolIsNotPressed();
     void changesAreSeenAtOnce();
     void aPictureStandsBesideTheCaption();
+    void buttonsAndFlyoutsAreInArial();
+    void barsShareThePicturesOfTheirTools();
     void everyButtonHasANameATextAndASpokenName();
     void whatIsPointedAtIsDescribed();
     void whatHasTheFocusIsDescribed();
@@ -150,6 +152,30 @@ void tst_ActiveBarStrip::aPictureStandsBesideTheCaption()
     QVERIFY(!window.button(u"Mode"_s)->icon().isNull());
     QVERIFY(window.button(u"Pairs"_s)->icon().isNull());
     QCOMPARE(window.button(u"Mode"_s)->icon().pixmap(QSize(16, 16), 2.0).size(), QSize(32, 32));
+}
+
+void tst_ActiveBarStrip::barsShareThePicturesOfTheirTools()
+{
+    BarWindow first;
+    BarWindow second;
+    const auto iconOf = [](BarWindow &window, const QString &name) { return window.button(name)->icon().cacheKey(); };
+    QCOMPARE(iconOf(second, u"Mode"_s), iconOf(first, u"Mode"_s));
+    QVERIFY(iconOf(first, u"Mode"_s) != iconOf(first, u"Save"_s));
+}
+
+void tst_ActiveBarStrip::buttonsAndFlyoutsAreInArial()
+{
+    BarWindow window;
+    window.open();
+    for (const auto &name : {u"Related"_s, u"Mode"_s, u"Close"_s})
+        QCOMPARE(window.button(name)->font().family(), u"Arial"_s);
+    QString inMenu;
+    onceAMenuIsOpen(window, [&](QMenu &menu) {
+        inMenu = menu.font().family();
+        menu.close();
+    });
+    QTest::mouseClick(window.button(u"Related"_s), Qt::LeftButton);
+    QCOMPARE(inMenu, u"Arial"_s);
 }
 
 void tst_ActiveBarStrip::everyButtonHasANameATextAndASpokenName()

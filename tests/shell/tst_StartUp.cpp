@@ -39,6 +39,7 @@ private slots:
     void init();
     void cleanup();
 
+    void nothingIsSharedBeforeAnyWindowRuns();
     void theSplashNamesProductVersionAndPlatform();
     void withoutStoredDetailsTheSplashShowsNone();
     void blanksOfAStoredNameAreDecodedAndThoseOfACompanyAreNot();
@@ -48,6 +49,8 @@ private slots:
     void anyKeyUnloadsTheSplash();
     void aClickOnItsFrameUnloadsTheSplash();
     void theSplashHasNoTimer();
+    void theLegalNoticesAreToBeSeenWhole();
+    void aKeyDuringTheLoadsTakesTheSplashAwayAndStopsNothing();
 
     void theIntroFollowsTheSplash();
     void theWindowsAreLoadedInTheirOrder();
@@ -97,11 +100,24 @@ void tst_StartUp::leaveIntro(bool byUser)
         m_system->host.advance(45000);
 }
 
+void tst_StartUp::nothingIsSharedBeforeAnyWindowRuns()
+{
+    const SharedState state;
+    QCOMPARE(state.ToolIdCounter, 0);
+    QCOMPARE(state.SectionNumber, 0);
+    QCOMPARE(state.SectionText + state.TitleText, u""_s);
+    QCOMPARE(state.FrameScaleWidth, 0);
+    QCOMPARE(state.FrameScaleHeight, 0);
+    for (const Boolean16 mark :
+         {state.DiagramLayoutHeld, state.UserDetailsSaved, state.TourStepsMuted, state.DealerTextPresent})
+        QCOMPARE(mark.value(), short(0));
+}
+
 void tst_StartUp::theSplashNamesProductVersionAndPlatform()
 {
     const frmSplash &splash = Default<frmSplash>();
     QCOMPARE(splash.lblPlatform.Caption(), u"95/98/NT4"_s);
-    QCOMPARE(splash.lblVersion.Caption(), u"Version %1.%2"_s.arg(App().Major()).arg(App().Minor()));
+    QCOMPARE(splash.lblVersion.Caption(), u"Version 1.0"_s);
     QCOMPARE(splash.Label1.Caption(), u"DEMO"_s);
     QCOMPARE(splash.lblCompanyProduct.Caption(), u"orvane"_s);
     QVERIFY(!splash.lblWarning.Caption().isEmpty());
@@ -162,6 +178,36 @@ void tst_StartUp::theSplashHasNoTimer()
 {
     Default<frmSplash>();
     QCOMPARE(m_system->host.runningTimers(), 0);
+}
+
+void tst_StartUp::theLegalNoticesAreToBeSeenWhole()
+{
+    const frmSplash &splash = Default<frmSplash>();
+    QVERIFY(splash.lblCopyright.Caption().contains(u"copyright"));
+    QVERIFY(splash.lblWarning.Caption().contains(u"license"));
+    for (const Label *notice : {&splash.lblCopyright, &splash.lblWarning}) {
+        const QWidget &shown = notice->widget();
+        const QRect needed = shown.fontMetrics().boundingRect(shown.rect(), Qt::TextWordWrap, notice->Caption());
+        QVERIFY2(shown.rect().contains(needed), qPrintable(notice->Name()));
+    }
+}
+
+// Between the loads the splash hears its events.
+void tst_StartUp::aKeyDuringTheLoadsTakesTheSplashAwayAndStopsNothing()
+{
+    QStringList left;
+    QTimer ticks;
+    connect(&ticks, &QTimer::timeout, this, [&] {
+        if (!loadedNames().contains(u"mdiMain"_s)) return;
+        ticks.stop();
+        QTest::keyClick(&Default<frmSplash>().shell(), Qt::Key_Space);
+        left = loadedNames();
+    });
+    ticks.start(0);
+    m_system->showSplash();
+    QCOMPARE(left, (QStringList{u"frmDemo"_s, u"mdiMain"_s}));
+    QCOMPARE(loadedNames(), (QStringList{u"frmDemo"_s, u"mdiMain"_s, u"frmCommandCentre"_s, u"frmInfo"_s}));
+    QVERIFY(intro().Visible());
 }
 
 void tst_StartUp::theIntroFollowsTheSplash()

@@ -28,6 +28,8 @@ private slots:
     void anEmptiedFileTakesTheMarkBackAndLeavesTheText();
     void aMissingFileEndsTheProgram();
     void aMissingFileLeavesTheMarkAlone();
+    void aMegabyteComesWhole();
+    void aByteWithoutCharacterEndsTheProgram_data();
     void aByteWithoutCharacterEndsTheProgram();
     void theTextIsReadBeforeTheFirstStep();
     void theTextIsNotReadWhenTheIntroRunsOut();
@@ -163,9 +165,31 @@ void tst_DealerTextInConsole::aMissingFileLeavesTheMarkAlone()
     QVERIFY(Shared().DealerTextPresent == True);
 }
 
+// Lines of any dealer, a great many of them.
+void tst_DealerTextInConsole::aMegabyteComesWhole()
+{
+    const QString text = u"Harbor Office Supplies, 12 Quay Road\r\n"_s.repeated(27'595);
+    QVERIFY(text.size() > 1024 * 1024);
+    dealerSays(text);
+    m_system->start();
+    QVERIFY(Shared().DealerTextPresent == True);
+    QVERIFY(info() == QString(text + u'\n').remove(u'\r'));
+    ShowTourStep(u"603"_s);
+    QCOMPARE(console().Tag(), u"604"_s);
+}
+
+void tst_DealerTextInConsole::aByteWithoutCharacterEndsTheProgram_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("at the front") << QByteArray(1, '\0');
+    QTest::newRow("far inside") << QByteArray(1'000'000, 'z') + QByteArray(64, '\0');
+    QTest::newRow("text that was never scrambled") << QByteArray("Harbor Office Supplies\r\n");
+}
+
 void tst_DealerTextInConsole::aByteWithoutCharacterEndsTheProgram()
 {
-    m_system->host.writeFile(u"DealerData.dat"_s, QByteArray(1, '\0'));
+    QFETCH(QByteArray, bytes);
+    m_system->host.writeFile(u"DealerData.dat"_s, bytes);
     m_system->host.expectAnyMessage();
     m_system->host.expectEnd(1);
     m_system->showSplash();

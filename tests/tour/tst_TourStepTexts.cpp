@@ -29,6 +29,9 @@ private slots:
     void aSectionIsFoundByItsLiteralTag();
     void whatIsAbsentShowsNone_data();
     void whatIsAbsentShowsNone();
+    void bytesOfAnyKindShowNone_data();
+    void bytesOfAnyKindShowNone();
+    void aScriptBehindAHundredMegabytesIsRead();
     void anEmptyValueShowsNothing();
     void aLongValueIsCut_data();
     void aLongValueIsCut();
@@ -127,6 +130,40 @@ void tst_TourStepTexts::whatIsAbsentShowsNone()
     QTEST(console().txtNext.Text(), "next");
     QCOMPARE(console().cmdGoBack.Tag(), none());
     QCOMPARE(console().txtPrev.Text(), none());
+}
+
+void tst_TourStepTexts::bytesOfAnyKindShowNone_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QByteArray every;
+    for (int code = 0; code < 256; ++code)
+        every += static_cast<char>(code);
+    QTest::newRow("zeros") << QByteArray(100'000, '\0');
+    QTest::newRow("every code") << every.repeated(1000);
+    QTest::newRow("a picture") << QByteArray("\x89PNG\r\n\x1A\n") + every;
+    QTest::newRow("keys of no section") << line("Header", "Lost") + line("RTF", "Lost");
+    QTest::newRow("text in two bytes a character") << QByteArray("\xFF\xFE[\0001\0002\0007\0]\0\n\0", 14);
+}
+
+void tst_TourStepTexts::bytesOfAnyKindShowNone()
+{
+    QFETCH(QByteArray, script);
+    m_system->host.writeFile(u"DemoData.ini"_s, script);
+    ShowTourStep(u"127"_s);
+    QCOMPARE(console().Tag(), u"127"_s);
+    for (const QString &text : {console().Header.Text(), console().rtf.Text(), console().txtNext.Text()})
+        QCOMPARE(text, none());
+    m_system->click(console().cmdGoNext);
+    QCOMPARE(console().Tag(), u"127"_s);
+}
+
+void tst_TourStepTexts::aScriptBehindAHundredMegabytesIsRead()
+{
+    m_system->host.writeFile(u"DemoData.ini"_s, QByteArray(100 * 1024 * 1024, ';') + "\r\n" + step("127", "a", "b"));
+    ShowTourStep(u"127"_s);
+    QCOMPARE(console().Tag(), u"127"_s);
+    QCOMPARE(console().cmdGoNext.Tag(), u"a"_s);
+    QCOMPARE(console().cmdGoBack.Tag(), u"b"_s);
 }
 
 void tst_TourStepTexts::anEmptyValueShowsNothing()

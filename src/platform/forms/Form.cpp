@@ -174,8 +174,6 @@ void Form::applyState()
         m_shell->showMaximized();
         break;
     default:
-        // Brought back from the taskbar a window takes the focus, and mapped anew only if it is meant to.
-        if (m_shell->isMinimized() && m_shell->testAttribute(Qt::WA_ShowWithoutActivating)) m_shell->hide();
         m_shell->showNormal();
         break;
     }

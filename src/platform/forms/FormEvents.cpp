@@ -79,7 +79,11 @@ void Form::stateChanged()
     const bool passesMinimized = (state == Minimized) != (m_lastState == Minimized);
     m_lastState = state;
     if (Visible()) m_state = state;
-    if (passesMinimized) guarded([this] { Form_Resize(); });
+    if (!passesMinimized) return;
+    guarded([this] { Form_Resize(); });
+    // A window that came back together with this one may have taken the focus.
+    if (state != Minimized && m_shell->isWindow() && !m_shell->testAttribute(Qt::WA_ShowWithoutActivating))
+        m_shell->activateWindow();
 }
 
 void Form::activationChanged(bool active)

@@ -1,12 +1,15 @@
 #include "platform/forms/ShellGeometry.h"
 
+#include "platform/controls/PictureView.h"
 #include "platform/controls/Twips.h"
 #include "platform/forms/Form.h"
 #include "platform/system/RunTimeError.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFontMetrics>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -16,6 +19,17 @@ namespace orvane
 namespace
 {
 constexpr int SettleMilliseconds = 500;
+constexpr int WakeMilliseconds = 20;
+
+// What the first paint needs takes about as long as the window manager takes to bring the window up: the two go side by
+// side.
+void prepareFirstPaint(const QWidget &shell)
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // sends the window off
+    QFontMetrics(shell.font()).height();                                  // finds the fonts
+    for (PictureView *picture : shell.findChildren<PictureView *>(Qt::FindDirectChildrenOnly))
+        picture->drawAhead();
+}
 
 bool fillsScreen(const QWidget &shell)
 {
@@ -33,7 +47,7 @@ void refuseMaximized(int windowState)
 {
     if (windowState == Maximized)
         throw RunTimeError(CannotSizeInThisState,
-                           QStringLiteral("A window can't be moved or sized while it is maximised."));
+                           QStringLiteral("A window can't be moved or sized while it is maximized."));
 }
 
 void refuseNegative(double twips)
@@ -49,11 +63,15 @@ void resizeOutside(QWidget &shell, int width, int height)
 
 void settle(QWidget &shell, bool maximized)
 {
+    prepareFirstPaint(shell);
     QElapsedTimer clock;
     clock.start();
+    QTimer wake; // so that the wait ends where nothing happens
+    wake.start(WakeMilliseconds);
     while (clock.elapsed() < SettleMilliseconds && shell.isVisible()) {
         if (shell.windowHandle()->isExposed() && (!maximized || fillsScreen(shell))) return;
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, 20);
+        // With a limit of time this would look for events again and again, at the cost of the one who sends them.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     }
     if (maximized && shell.isVisible()) shell.setGeometry(shell.screen()->availableGeometry());
 }

@@ -2,6 +2,7 @@
 
 #include "platform/controls/CommandButton.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -17,6 +18,25 @@ QWidget *newShell(Window::Border border)
                                       ? Qt::FramelessWindowHint
                                       : Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
     return new QWidget(nullptr, Qt::Window | frame);
+}
+
+bool isOnTop(const QWidget &shell)
+{
+    return shell.windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+}
+
+// A window that floats over the others and leaves the focus to them.
+bool isFloating(const QWidget &shell)
+{
+    return isOnTop(shell) && shell.testAttribute(Qt::WA_ShowWithoutActivating);
+}
+
+// Of windows on top, the one that was raised last covers the others. A dialog is not to be lost behind one that floats.
+void raiseDialogs()
+{
+    for (QWidget *shell : QApplication::topLevelWidgets())
+        if (shell->isVisible() && isOnTop(*shell) && !isFloating(*shell)) shell->raise();
+    if (QWidget *modal = QApplication::activeModalWidget()) modal->raise();
 }
 
 QPushButton &buttonShownBy(const CommandButton &button)
@@ -37,6 +57,7 @@ void Window::Show(int mode)
         shell().move(room.center() - shell().rect().center());
     }
     Form::Show(mode);
+    if (isFloating(shell())) raiseDialogs();
 }
 
 void Window::setTopMost(bool topMost)
@@ -71,6 +92,7 @@ CommandButton *Window::buttonOf(const QKeyEvent &event) const
 // A key that is still held down from before the window came up presses nothing.
 bool Window::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::WindowActivate && watched == &shell() && isFloating(shell())) raiseDialogs();
     const bool isPress = event->type() == QEvent::KeyPress;
     const bool isKey = isPress || event->type() == QEvent::KeyRelease;
     if (!Loaded() || watched != &shell() || !isKey) return Form::eventFilter(watched, event);
