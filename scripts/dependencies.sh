@@ -3,13 +3,17 @@
 
 # shellcheck disable=SC2034  # the lists are for those who source this
 {
-    packages_build=(g++ cmake ninja-build ccache mold qt6-base-dev qt6-svg-dev)
-    # The fonts stand in for the ones that the documents name; xdpyinfo tells whether a display answers.
-    packages_run=(fonts-liberation fonts-dejavu-core x11-utils)
+    packages_build=(g++ cmake ninja-build ccache mold qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-documentation-tools)
+    # The fonts stand in for the ones that the documents name; the help file is a database; xdpyinfo tells whether a
+    # display answers.
+    packages_run=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite x11-utils)
     packages_wayland=(qt6-wayland)
     packages_virtual_display=(xvfb openbox)
     packages_bench=(libbenchmark-dev hyperfine time unrtf pandoc abiword libreoffice-writer-nogui)
-    packages_check=(fonts-liberation fonts-dejavu-core clang-format-14 clang libclang-rt-14-dev)
+    # A test prints on a scheduler of its own, and reads what comes out.
+    packages_printing=(cups printer-driver-cups-pdf poppler-utils)
+    packages_check=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite "${packages_printing[@]}" clang-format-14 clang
+        libclang-rt-14-dev)
     packages_tidy=(clang-tidy)
 }
 

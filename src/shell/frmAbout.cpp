@@ -6,6 +6,7 @@
 #include "platform/system/Application.h"
 #include "platform/system/Host.h"
 #include "platform/system/StartProgram.h"
+#include "shell/HelpKey.h"
 
 namespace orvane
 {
@@ -106,6 +107,11 @@ void frmAbout::Form_Load()
 {
     setCaption(QStringLiteral("About ") + App().Title());
     lblVersion.setCaption(QStringLiteral("Version %1.%2").arg(App().Major()).arg(App().Minor()));
+}
+
+void frmAbout::Form_KeyDown(int keyCode, int)
+{
+    answerHelpKey(keyCode);
 }
 
 void frmAbout::Form_KeyUp(int keyCode, int shift)

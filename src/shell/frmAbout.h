@@ -41,6 +41,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyUp(int keyCode, int shift) override;
 
 private:

@@ -5,6 +5,7 @@
 #include "platform/system/Application.h"
 #include "platform/system/RegistryStandIn.h"
 #include "platform/system/SettingsStore.h"
+#include "shell/HelpKey.h"
 #include "shell/ReadRegistryString.h"
 #include "shell/SharedState.h"
 #include "tour/frmDemo.h"
@@ -32,6 +33,7 @@ frmProperties::frmProperties()
       cmdCancel(*this, QStringLiteral("cmdCancel"), QStringLiteral("Cancel")),
       txtUserCompany(*this, QStringLiteral("txtUserCompany")), lblCompany(*this, QStringLiteral("lblCompany"))
 {
+    setTopMost(true); // the tour's console stays on top too
     setCaption(QStringLiteral("orvane Properties"));
     placeControls();
     dressControls();
@@ -72,6 +74,11 @@ void frmProperties::readDetails()
 void frmProperties::Form_Load()
 {
     readDetails();
+}
+
+void frmProperties::Form_KeyDown(int keyCode, int)
+{
+    answerHelpKey(keyCode);
 }
 
 void frmProperties::cmdOK_Click()

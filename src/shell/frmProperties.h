@@ -27,6 +27,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_KeyDown(int keyCode, int shift) override;
 
 private:
     void placeControls();

@@ -4,6 +4,7 @@
 #include "platform/forms/DefaultInstance.h"
 #include "platform/forms/WindowList.h"
 #include "platform/forms/Wiring.h"
+#include "shell/HelpKey.h"
 #include "shell/SharedState.h"
 #include "shell/modFunctions.h"
 #include "tour/frmDemo.h"
@@ -66,6 +67,7 @@ void mdiMain::Form_Unload(bool &)
 void mdiMain::Form_KeyDown(int keyCode, int)
 {
     if (keyCode == KeyF6 && Default<frmDemo>().Visible()) Default<frmDemo>().SetFocus();
+    answerHelpKey(keyCode);
 }
 
 void mdiMain::ShowTourStepNumber(short tag)

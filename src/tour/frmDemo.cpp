@@ -4,6 +4,7 @@
 #include "platform/controls/Palette.h"
 #include "platform/forms/DefaultInstance.h"
 #include "platform/forms/Wiring.h"
+#include "shell/HelpKey.h"
 #include "shell/mdiMain.h"
 #include "tour/modDemo.h"
 
@@ -105,6 +106,7 @@ void frmDemo::Form_Load()
 void frmDemo::Form_KeyDown(int keyCode, int)
 {
     if (keyCode == KeyF6) Default<mdiMain>().SetFocus();
+    answerHelpKey(keyCode);
 }
 
 void frmDemo::rtf_Click()

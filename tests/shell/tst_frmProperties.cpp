@@ -53,6 +53,28 @@ void type(const TextBox &box, const QString &text)
     QTest::keyClicks(&box.widget(), text);
 }
 
+// Which windows are brought to the front, in order.
+class Raised : public QObject
+{
+public:
+    Raised(std::initializer_list<QWidget *> shells)
+    {
+        for (QWidget *shell : shells)
+            shell->installEventFilter(this);
+    }
+
+    const QStringList &order() const { return m_order; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::ZOrderChange) m_order << watched->objectName();
+        return false;
+    }
+
+private:
+    QStringList m_order;
+};
+
 void show()
 {
     dialog().Show();
@@ -88,6 +110,9 @@ private slots:
     void cancelReadsTheRecordAgain();
     void closingUnloadsTheDialogAndStoresNothing();
     void theUserCanGoOnInOtherWindows();
+    void itStandsAboveTheConsole();
+    void itStaysInFrontWhenTheConsoleComesForward_data();
+    void itStaysInFrontWhenTheConsoleComesForward();
     void aSavedNameDoesNotReachTheSplash();
 
 private:
@@ -314,6 +339,36 @@ void tst_frmProperties::theUserCanGoOnInOtherWindows()
     m_system->click(m_system->diagram().SSRibbon1(3));
     QVERIFY(m_system->diagram().pnlDiag(3).Visible());
     QVERIFY(dialog().Visible());
+}
+
+void tst_frmProperties::itStandsAboveTheConsole()
+{
+    m_system->start();
+    show();
+    QVERIFY(m_system->console().shell().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    QVERIFY(dialog().shell().windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+}
+
+void tst_frmProperties::itStaysInFrontWhenTheConsoleComesForward_data()
+{
+    QTest::addColumn<bool>("byUser");
+    QTest::newRow("with a step") << false;
+    QTest::newRow("by the user's hand") << true;
+}
+
+void tst_frmProperties::itStaysInFrontWhenTheConsoleComesForward()
+{
+    QFETCH(bool, byUser);
+    m_system->start();
+    show();
+    const Raised raised{&dialog().shell(), &m_system->console().shell()};
+    if (byUser)
+        m_system->console().SetFocus();
+    else
+        m_system->click(m_system->diagram().SSRibbon1(3));
+    QTRY_COMPARE(m_system->console().shell().isActiveWindow(), byUser);
+    QVERIFY(raised.order().contains(u"frmDemo"_s));
+    QCOMPARE(raised.order().last(), u"frmProperties"_s);
 }
 
 void tst_frmProperties::aSavedNameDoesNotReachTheSplash()

@@ -1,0 +1,54 @@
+// The help window: contents, index and search beside a page. Modeless, above the program's other windows; it forgets
+// everything when it is closed.
+#pragma once
+
+#include "platform/help/HelpLibrary.h"
+
+#include <QMainWindow>
+
+class QTabWidget;
+class QToolBar;
+
+namespace orvane
+{
+
+class HelpContentsPane;
+class HelpIndexPane;
+class HelpPage;
+class HelpSearchPane;
+
+class HelpWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit HelpWindow(const QString &helpFile); // errors 53, 75 and 321, see WinHelp
+    ~HelpWindow() override;
+
+    const QString &helpFile() const { return m_helpFile; }
+
+    void bringForward(); // also over a window that is modal
+    void showContents(); // the contents, and the first page
+    void showSearch();
+
+private:
+    void layOut();
+    void addTabs();
+    void addTools();
+    QAction &addTool(const QString &name, const QString &caption, const QString &tip, const QKeySequence &key);
+    void addKeys();
+    void followPage();
+    void takeFirstPlace();
+    void print();
+
+    QString m_helpFile;
+    HelpLibrary m_library;
+    HelpPage *m_page;
+    HelpContentsPane *m_contents;
+    HelpIndexPane *m_index;
+    HelpSearchPane *m_search;
+    QTabWidget *m_tabs;
+    QToolBar *m_tools;
+};
+
+} // namespace orvane
