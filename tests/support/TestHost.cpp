@@ -1,7 +1,12 @@
 #include "support/TestHost.h"
 
+#include "platform/print/DefaultPrinter.h"
+#include "platform/print/Printers.h"
+
 #include <QFile>
+#include <QPrinter>
 #include <QTest>
+#include <algorithm>
 
 namespace orvane::test
 {
@@ -9,12 +14,17 @@ namespace orvane::test
 TestHost::TestHost() : m_before(setHost(this))
 {
     writeFile(QStringLiteral("DealerData.dat"), {});
+    m_documents = m_folder.filePath(QStringLiteral("Documents"));
+    Printer() = DefaultPrinter();
+    setPdfFileName({});
 }
 
 TestHost::~TestHost()
 {
     setHost(m_before);
     if (!m_expected.empty()) QTest::qFail("an expected message box didn't come up", __FILE__, __LINE__);
+    if (!m_dialogAnswers.empty()) QTest::qFail("an expected print dialog didn't come up", __FILE__, __LINE__);
+    if (!m_pageSetupAnswers.empty()) QTest::qFail("an expected page setup dialog didn't come up", __FILE__, __LINE__);
     if (m_expectedEnd) QTest::qFail("the process didn't end as expected", __FILE__, __LINE__);
 }
 
@@ -91,6 +101,54 @@ int TestHost::startTimer(int interval, std::function<void()> tick)
 void TestHost::stopTimer(int number)
 {
     m_timers.erase(number);
+}
+
+void TestHost::setNoPrinters()
+{
+    m_queues.clear();
+    m_documents = m_folder.filePath(QStringLiteral("DealerData.dat/Documents"));
+}
+
+void TestHost::answerPrintDialog(std::function<bool(PrintChoice &)> answer)
+{
+    m_dialogAnswers.push_back(std::move(answer));
+}
+
+std::unique_ptr<QPrinter> TestHost::openQueue(const QString &queueName)
+{
+    if (std::none_of(m_queues.begin(), m_queues.end(), [&](const auto &each) { return each.deviceName == queueName; }))
+        return nullptr;
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(printedFile(queueName));
+    return printer;
+}
+
+void TestHost::answerPageSetup(std::function<bool(PageChoice &)> answer)
+{
+    m_pageSetupAnswers.push_back(std::move(answer));
+}
+
+bool TestHost::pageSetupDialog(PageChoice &choice)
+{
+    if (m_pageSetupAnswers.empty()) {
+        QTest::qFail("unexpected page setup dialog", __FILE__, __LINE__);
+        return false;
+    }
+    const auto answer = m_pageSetupAnswers.front();
+    m_pageSetupAnswers.erase(m_pageSetupAnswers.begin());
+    return answer(choice);
+}
+
+bool TestHost::printDialog(PrintChoice &choice, quint32)
+{
+    if (m_dialogAnswers.empty()) {
+        QTest::qFail("unexpected print dialog", __FILE__, __LINE__);
+        return false;
+    }
+    const auto answer = m_dialogAnswers.front();
+    m_dialogAnswers.erase(m_dialogAnswers.begin());
+    return answer(choice);
 }
 
 } // namespace orvane::test

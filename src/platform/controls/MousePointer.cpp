@@ -13,6 +13,8 @@ Qt::CursorShape pointerShape(int mousePointer)
         return Qt::ArrowCursor;
     case HourglassPointer:
         return Qt::WaitCursor;
+    case ArrowHourglassPointer:
+        return Qt::BusyCursor;
     case ArrowQuestionPointer:
         return Qt::WhatsThisCursor;
     default:

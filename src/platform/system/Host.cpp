@@ -1,11 +1,16 @@
 #include "platform/system/Host.h"
 
+#include "platform/print/dialog/SystemPrintDialog.h"
+#include "platform/print/preview/PageSetupDialog.h"
+#include "platform/print/queues/SystemQueues.h"
 #include "platform/system/Application.h"
 #include "platform/system/MachineTimers.h"
 
 #include <QApplication>
 #include <QCoreApplication>
 #include <QMessageBox>
+#include <QPrinter>
+#include <QStandardPaths>
 #include <cstdlib>
 
 namespace orvane
@@ -58,9 +63,39 @@ void Host::stopTimer(int number)
     machineTimers().stop(number);
 }
 
+QDate Host::today()
+{
+    return QDate::currentDate();
+}
+
 std::optional<RegistryKey> Host::openRegistryKey(quint32 rootKey, const QString &subKey)
 {
     return openMachineKey(rootKey, subKey);
+}
+
+std::vector<InstalledPrinter> Host::printQueues()
+{
+    return systemQueues();
+}
+
+std::unique_ptr<QPrinter> Host::openQueue(const QString &queueName)
+{
+    return openSystemQueue(queueName);
+}
+
+bool Host::printDialog(PrintChoice &choice, quint32 owner)
+{
+    return showSystemPrintDialog(choice, owner);
+}
+
+bool Host::pageSetupDialog(PageChoice &choice)
+{
+    return showPageSetupDialog(choice);
+}
+
+QString Host::documentsFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 Host &host()

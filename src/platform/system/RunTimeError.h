@@ -20,6 +20,8 @@ enum ErrorNumber {
     InvalidPropertyValue = 380,
     CannotSizeInThisState = 384,
     NoSuchMember = 438,
+    PrinterFailure = 482,
+    PrinterHasNoSuchProperty = 483,
 };
 
 class RunTimeError : public std::runtime_error

@@ -1,0 +1,34 @@
+#include "platform/print/dialog/WindowHandle.h"
+
+#include "platform/forms/Form.h"
+
+#include <QApplication>
+#include <QWidget>
+#include <algorithm>
+
+namespace orvane
+{
+
+namespace
+{
+quint32 handleOf(const QWidget &window)
+{
+    return static_cast<quint32>(window.winId());
+}
+} // namespace
+
+quint32 hWnd(const Form &form)
+{
+    return handleOf(*form.shell().window());
+}
+
+QWidget *windowOfHandle(quint32 handle)
+{
+    const auto windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), [&](const QWidget *window) {
+        return window->isVisible() && handleOf(*window) == handle;
+    });
+    return found == windows.end() ? nullptr : *found;
+}
+
+} // namespace orvane

@@ -1,0 +1,92 @@
+#include "platform/print/queues/PrintService.h"
+
+#include <QElapsedTimer>
+#include <QLibrary>
+#include <memory>
+
+namespace orvane
+{
+
+namespace
+{
+constexpr int InterfaceVersion = 2;
+constexpr int AnyFamily = 0;
+constexpr int Blocking = 1;
+constexpr int Continue = 100; // more of the answer is to come
+constexpr int NoAnswer = -1;
+constexpr int LastGoodState = 7; // of the states that the service answers a request with
+constexpr double SecondsToWait = 3;
+constexpr int MillisecondsToWait = 3000;
+constexpr int MillisecondsOfSilence = 5000;
+
+struct Connection; // the service's own
+
+template <class Function>
+Function entry(const char *name)
+{
+    QLibrary service(QStringLiteral("cups"), InterfaceVersion);
+    return reinterpret_cast<Function>(service.resolve(name));
+}
+
+using Connect = Connection *(*)(const char *, int, void *, int, int, int, int, int *);
+using SetTimeout = void (*)(Connection *, double, int (*)(Connection *, void *), void *);
+using Ask = int (*)(Connection *, const char *);
+using Read = int (*)(Connection *);
+using Close = void (*)(Connection *);
+using Text = const char *(*)();
+using Number = int (*)();
+
+Connection *connectToService()
+{
+    const auto server = entry<Text>("cupsServer");
+    const auto port = entry<Number>("ippPort");
+    const auto encryption = entry<Number>("cupsEncryption");
+    const auto connect = entry<Connect>("httpConnect2");
+    if (!server || !port || !encryption || !connect) return nullptr;
+    return connect(server(), port(), nullptr, AnyFamily, encryption(), Blocking, MillisecondsToWait, nullptr);
+}
+
+int giveUp(Connection *, void *)
+{
+    return 0;
+}
+
+// The state of the service's answer to the least of all requests.
+int answerOf(Connection *connection)
+{
+    const auto setTimeout = entry<SetTimeout>("httpSetTimeout");
+    const auto ask = entry<Ask>("httpOptions");
+    const auto read = entry<Read>("httpUpdate");
+    if (!setTimeout || !ask || !read) return NoAnswer;
+    setTimeout(connection, SecondsToWait, giveUp, nullptr);
+    if (ask(connection, "*") != 0) return NoAnswer;
+    int state = Continue;
+    while (state == Continue)
+        state = read(connection);
+    return state;
+}
+} // namespace
+
+bool printServiceAnswers()
+{
+    static QElapsedTimer silence;
+    if (silence.isValid() && !silence.hasExpired(MillisecondsOfSilence)) return false;
+    silence.invalidate();
+    QElapsedTimer waited;
+    waited.start();
+    const std::unique_ptr<Connection, Close> connection(connectToService(), entry<Close>("httpClose"));
+    const bool answers = connection && answerOf(connection.get()) != NoAnswer;
+    if (!answers && waited.hasExpired(MillisecondsToWait / 2)) silence.start();
+    return answers;
+}
+
+QString refusalOfLastJob()
+{
+    const auto state = entry<Number>("cupsLastError");
+    const auto words = entry<Text>("cupsLastErrorString");
+    if (!state || !words || state() <= LastGoodState) return {};
+    const QString reason = QString::fromUtf8(words());
+    return reason.isEmpty() ? QStringLiteral("The print service doesn't answer.") : reason;
+}
+
+} // namespace orvane

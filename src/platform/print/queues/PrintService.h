@@ -1,0 +1,17 @@
+// The library of the print service itself, for what the toolkit doesn't tell. It is looked up when it is first asked,
+// so that the program runs on machines without it; there it never answers.
+#pragma once
+
+#include <QString>
+
+namespace orvane
+{
+
+// Whether the service takes requests now. One that has stopped is waited for three seconds, and then left alone for
+// five: the toolkit would wait for ever.
+bool printServiceAnswers();
+
+// Why the service didn't take the job that this thread handed to it last, or nothing where it did.
+QString refusalOfLastJob();
+
+} // namespace orvane
