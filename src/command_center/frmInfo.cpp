@@ -1,6 +1,7 @@
 #include "command_center/frmInfo.h"
 
 #include "command_center/frmCommandCentre.h"
+#include "platform/controls/Palette.h"
 #include "platform/forms/DefaultInstance.h"
 #include "platform/forms/Wiring.h"
 #include "platform/system/Guard.h"
@@ -15,6 +16,26 @@ namespace
 {
 constexpr int IntroMilliseconds = 45000;
 constexpr int EnterKey = 13;
+
+// In the sizes that the splash has just used: each other one would be a font more that a start has to find.
+std::vector<PictureWords> pictureWords()
+{
+    constexpr int Small = 12; // pixels
+    constexpr int Usual = 13;
+    constexpr int Large = 20;
+    return {
+        {QStringLiteral("Five modules, one environmental management system"), 592, 39, Small, false, palette::GreyText,
+         PictureWords::End},
+        {QStringLiteral("Command"), 310, 236, Large, true, palette::Paper},
+        {QStringLiteral("Center"), 310, 257, Large, true, palette::Paper},
+        {QStringLiteral("Implementation Guide"), 310, 138, Usual, true, palette::Ink},
+        {QStringLiteral("Environment Manual"), 510, 210, Usual, true, palette::Ink},
+        {QStringLiteral("Management Procedures"), 482, 354, Usual, true, palette::Ink},
+        {QStringLiteral("Action Tools"), 138, 354, Usual, true, palette::Ink},
+        {QStringLiteral("Records"), 110, 210, Usual, true, palette::Ink},
+        {QStringLiteral("Click the red dot to go on"), 310, 437, Usual, true, palette::Ink},
+    };
+}
 } // namespace
 
 frmInfo::frmInfo()
@@ -24,6 +45,7 @@ frmInfo::frmInfo()
     setFixedDesignSize(9315, 6990);
     Image1.Move(0, 0, 9315, 6990);
     Image1.setPicture(QStringLiteral("intro"));
+    Image1.setWords(pictureWords());
     Image1.setPurpose(QStringLiteral("The five modules round the Command Center. Press Enter to go on."));
     lblBtn.Move(3600, 5760, 1815, 495);
     lblBtn.setPurpose(QStringLiteral("Go on"));

@@ -1,5 +1,6 @@
 // The intro: its places, the ways that lead out of it, and what each of them brings up in which order.
 #include "command_center/OrderLog.h"
+#include "platform/controls/Palette.h"
 #include "support/ReportedTags.h"
 #include "support/RunningSystem.h"
 #include "tour/DealerText.h"
@@ -24,6 +25,19 @@ bool introIsUp()
     return countWindows(u"frmInfo"_s) == 1 && intro().Visible();
 }
 
+bool shows(const QImage &drawing, const QRect &room, const QColor &colour)
+{
+    const auto near = [](int a, int b) { return std::abs(a - b) < 24; };
+    for (int y = room.top(); y <= room.bottom(); ++y)
+        for (int x = room.left(); x <= room.right(); ++x) {
+            const QColor shown = drawing.pixelColor(x, y);
+            if (near(shown.red(), colour.red()) && near(shown.green(), colour.green()) &&
+                near(shown.blue(), colour.blue()))
+                return true;
+        }
+    return false;
+}
+
 QRectF placeOf(const Control &control)
 {
     return {control.Left(), control.Top(), control.Width(), control.Height()};
@@ -41,6 +55,8 @@ private slots:
     void theWindowAndItsControlsHaveTheirPlaces();
     void theWindowHasNoTitle();
     void thePictureFillsTheWindowAndShowsTheDotUnderTheButton();
+    void theWordsStandInThePicture_data();
+    void theWordsStandInThePicture();
     void loadHidesTheConsoleAndStartsTheTimer();
 
     void theUserLeavesItInThisOrder_data();
@@ -138,6 +154,34 @@ void tst_frmInfo::thePictureFillsTheWindowAndShowsTheDotUnderTheButton()
     const QColor dot = drawing.pixelColor(intro().lblBtn.widget().geometry().center() + QPoint(8, 0));
     QVERIFY2(dot.red() > 150 && dot.green() < 100 && dot.blue() < 100, qPrintable(dot.name()));
     QCOMPARE(intro().shell().childAt(intro().lblBtn.widget().geometry().center()), &intro().lblBtn.widget());
+}
+
+void tst_frmInfo::theWordsStandInThePicture_data()
+{
+    QTest::addColumn<QRect>("room");
+    QTest::addColumn<QColor>("colour");
+    QTest::newRow("what it is") << QRect(300, 29, 292, 12) << QColor(palette::GreyText);
+    QTest::newRow("Command Center") << QRect(265, 221, 90, 36) << QColor(palette::Paper);
+    QTest::newRow("Implementation Guide") << QRect(245, 128, 130, 13) << QColor(palette::Ink);
+    QTest::newRow("Environment Manual") << QRect(450, 200, 120, 13) << QColor(palette::Ink);
+    QTest::newRow("Management Procedures") << QRect(405, 344, 155, 13) << QColor(palette::Ink);
+    QTest::newRow("Action Tools") << QRect(101, 344, 74, 10) << QColor(palette::Ink);
+    QTest::newRow("Records") << QRect(86, 200, 48, 10) << QColor(palette::Ink);
+    QTest::newRow("the way on") << QRect(235, 427, 150, 13) << QColor(palette::Ink);
+}
+
+// Outermost letters reach the room's ends, and nothing of that colour stands right beside it.
+void tst_frmInfo::theWordsStandInThePicture()
+{
+    QFETCH(QRect, room);
+    QFETCH(QColor, colour);
+    m_system->showSplash();
+    const QImage drawing = intro().Image1.widget().grab().toImage();
+    const int slack = room.width() / 8;
+    QVERIFY(shows(drawing, QRect(room.left(), room.top(), slack, room.height()), colour));
+    QVERIFY(shows(drawing, QRect(room.right() - slack, room.top(), slack, room.height()), colour));
+    QVERIFY(!shows(drawing, QRect(room.left() - 8, room.top(), 6, room.height()), colour));
+    QVERIFY(!shows(drawing, QRect(room.right() + 4, room.top(), 6, room.height()), colour));
 }
 
 void tst_frmInfo::loadHidesTheConsoleAndStartsTheTimer()

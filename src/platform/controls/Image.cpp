@@ -16,4 +16,9 @@ void Image::setPicture(const QString &name)
     m_view.setPicture(name);
 }
 
+void Image::setWords(const std::vector<PictureWords> &words)
+{
+    m_view.setWords(words);
+}
+
 } // namespace orvane

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "platform/controls/Control.h"
+#include "platform/controls/PictureWords.h"
+
+#include <vector>
 
 namespace orvane
 {
@@ -16,6 +19,7 @@ public:
     Image(Container &parent, const QString &name);
 
     void setPicture(const QString &name); // a file under pictures/, without its ending
+    void setWords(const std::vector<PictureWords> &words);
 
 signals:
     void Click();

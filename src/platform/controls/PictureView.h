@@ -4,6 +4,7 @@
 #include "platform/controls/Drawing.h"
 #include "platform/controls/PictureObject.h"
 
+#include <QPixmap>
 #include <QWidget>
 
 namespace orvane
@@ -17,9 +18,12 @@ public:
     using QWidget::QWidget;
 
     void setPicture(const QString &name); // a file under pictures/, without its ending
+    void setWords(const std::vector<PictureWords> &words);
 
     const PictureObject &pixels() const { return m_pixels; }
     void setPixels(const PictureObject &picture);
+
+    void drawAhead(); // what the next paint shows, if the size stays
 
 signals:
     void clicked();
@@ -29,8 +33,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void paintDrawing(QPainter &painter);
+
     Drawing m_drawing;
     PictureObject m_pixels;
+    QPixmap m_ahead;
 };
 
 } // namespace orvane

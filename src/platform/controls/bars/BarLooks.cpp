@@ -3,7 +3,9 @@
 #include "platform/controls/Palette.h"
 #include "platform/controls/bars/Tool.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QHash>
 #include <QWidget>
 
 // Outside any namespace, as the pictures' own code is; a static library drops them unless they are asked for.
@@ -19,6 +21,21 @@ namespace
 {
 constexpr int PointSize = 9;
 constexpr QChar Mark = u'&';
+
+// One icon for all tools that show a picture: it keeps what it has drawn. Icons can't outlive the application.
+QHash<QString, QIcon> &knownIcons()
+{
+    static QHash<QString, QIcon> icons;
+    return icons;
+}
+
+QIcon readIcon(const QString &image)
+{
+    bringPicturesIn();
+    if (knownIcons().isEmpty()) qAddPostRoutine([] { knownIcons().clear(); });
+    const QString file = QStringLiteral(":/pictures/tools/%1.svg").arg(image);
+    return QFile::exists(file) ? QIcon(file) : QIcon();
+}
 } // namespace
 
 QFont barFont()
@@ -38,9 +55,11 @@ void applyMenuLooks(QWidget &menu)
 QIcon toolIcon(const Tool &tool)
 {
     if (tool.Image().isEmpty()) return {};
-    bringPicturesIn();
-    const QString file = QStringLiteral(":/pictures/tools/%1.svg").arg(tool.Image());
-    return QFile::exists(file) ? QIcon(file) : QIcon();
+    const auto known = knownIcons().constFind(tool.Image());
+    if (known != knownIcons().cend()) return *known;
+    const QIcon icon = readIcon(tool.Image());
+    knownIcons().insert(tool.Image(), icon);
+    return icon;
 }
 
 QString shownCaption(const Tool &tool)
