@@ -2,6 +2,8 @@
 
 #include "shell/modFunctions.h"
 
+#include <set>
+
 namespace orvane::module
 {
 
@@ -14,6 +16,13 @@ void activate(MDIChild &window, const QString &moduleCode)
 void deactivate(MDIChild &window)
 {
     CheckWindowTool(window.Tag(), False, QString());
+}
+
+bool isPagingTool(const QString &name)
+{
+    static const std::set<QString> paging{QStringLiteral("Next"), QStringLiteral("Prev"), QStringLiteral("First"),
+                                          QStringLiteral("Last")};
+    return paging.contains(name);
 }
 
 void close(MDIChild &window)

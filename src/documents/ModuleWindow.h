@@ -9,6 +9,8 @@ namespace orvane::module
 void activate(MDIChild &window, const QString &moduleCode);
 void deactivate(MDIChild &window);
 
+bool isPagingTool(const QString &name); // First, Prev, Next or Last: those that bear no check mark
+
 // The diagram comes up, then the window goes.
 void close(MDIChild &window);
 

@@ -12,8 +12,6 @@
 #include "shell/modFunctions.h"
 #include "tour/modDemo.h"
 
-#include <set>
-
 namespace orvane
 {
 
@@ -46,13 +44,6 @@ const PageRow &pageOf(const QString &section)
     for (const PageRow &row : introductions)
         if (row.section == section) return row;
     return step;
-}
-
-bool isPagingTool(const QString &name)
-{
-    static const std::set<QString> paging{QStringLiteral("Next"), QStringLiteral("Prev"), QStringLiteral("First"),
-                                          QStringLiteral("Last")};
-    return paging.contains(name);
 }
 } // namespace
 
@@ -116,7 +107,7 @@ void frmIGSteps::enableStepTools(bool enabled)
 void frmIGSteps::mnuNav_Click(Tool &tool)
 {
     const QString name = tool.Name();
-    if (isPagingTool(name)) {
+    if (module::isPagingTool(name)) {
         cmdTipsClose_Click();
     } else {
         for (int i = 0; i < mnuNav.ToolCount(); ++i)

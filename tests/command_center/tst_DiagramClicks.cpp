@@ -148,7 +148,7 @@ void tst_DiagramClicks::theEmergencyPlanIdeasOpenAndAreReportedThen()
     const StepLog log(m_system->console(), [this] { return u" over "_s + m_system->active()->Tag(); });
     m_system->click(diagram().cmdAct(7));
     QCOMPARE(m_system->active()->Name(), u"frmATMain"_s);
-    QCOMPARE(m_system->active()->Caption(), u"Emergency Plan Ideas"_s);
+    QCOMPARE(m_system->active()->Tag(), u"[Action Tools] - Emergency Plan Ideas"_s);
     QCOMPARE(Shared().SectionText, u"406"_s);
     QVERIFY(!log.steps().isEmpty());
     QCOMPARE(log.steps().last(), u"406 over [Action Tools] - Emergency Plan Ideas"_s);

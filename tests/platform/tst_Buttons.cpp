@@ -82,6 +82,9 @@ private slots:
     void aLockedBoxRefusesTyping_data();
     void aLockedBoxRefusesTyping();
     void aBoxTellsOfEachChange();
+    void aBoxTellsOfItsKeys();
+    void aBoxTellsOfTheFocus();
+    void tabGoesFromControlToControlAsSet();
 
 private:
     std::unique_ptr<RibbonWindow> m_window;
@@ -346,6 +349,52 @@ void tst_Buttons::aBoxTellsOfEachChange()
         QTest::keyClicks(&box.widget(), u"bc"_s);
         QCOMPARE(changes, 3);
     }
+}
+
+void tst_Buttons::aBoxTellsOfItsKeys()
+{
+    TextBox box(*m_window, u"txtIssue"_s);
+    QStringList events;
+    connect(&box, &TextBox::KeyPress, this,
+            [&](int keyAscii) { events += u"press %1 %2"_s.arg(keyAscii).arg(box.Text()); });
+    connect(&box, &TextBox::KeyUp, this, [&] { events += u"up %1"_s.arg(box.Text()); });
+    QTest::keyClicks(&box.widget(), u"a"_s);
+    QTest::keyClick(&box.widget(), Qt::Key_Backspace);
+    QTest::keyClick(&box.widget(), Qt::Key_Left);
+    QCOMPARE(events, (QStringList{u"press 97 "_s, u"up a"_s, u"press 8 a"_s, u"up "_s, u"up "_s}));
+}
+
+void tst_Buttons::aBoxTellsOfTheFocus()
+{
+    TextBox date(*m_window, u"txtDate"_s);
+    TextBox other(*m_window, u"txtIssue"_s);
+    QStringList events;
+    connect(&date, &TextBox::GotFocus, this, [&] { events += u"got"_s; });
+    connect(&date, &TextBox::LostFocus, this, [&] { events += u"lost"_s; });
+    showActive(*m_window);
+    other.SetFocus();
+    events.clear();
+    date.SetFocus();
+    other.SetFocus();
+    date.SetFocus();
+    QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason); // another window comes to the front
+    QCoreApplication::sendEvent(&date.widget(), &away);
+    QCOMPARE(events, (QStringList{u"got"_s, u"lost"_s, u"got"_s}));
+}
+
+void tst_Buttons::tabGoesFromControlToControlAsSet()
+{
+    TextBox first(*m_window, u"txtAuthorized"_s);
+    TextBox second(*m_window, u"txtDate"_s);
+    TextBox third(*m_window, u"txtIssue"_s);
+    second.setTabAfter(third);
+    first.setTabAfter(second);
+    showActive(*m_window);
+    third.SetFocus();
+    QTest::keyClick(&third.widget(), Qt::Key_Tab);
+    QCOMPARE(m_window->ActiveControl(), &second);
+    QTest::keyClick(&second.widget(), Qt::Key_Tab);
+    QCOMPARE(m_window->ActiveControl(), &first);
 }
 
 QTEST_MAIN(tst_Buttons)

@@ -2,8 +2,10 @@
 #include "platform/FormFixture.h"
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/ControlArray.h"
+#include "platform/controls/Image.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/PictureBox.h"
+#include "platform/controls/PictureView.h"
 #include "platform/controls/SSPanel.h"
 #include "platform/controls/TimerControl.h"
 #include "platform/controls/text/TextBox.h"
@@ -11,6 +13,21 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
 using namespace orvane::test;
+
+namespace
+{
+// The pixels of that colour, from the first column to the last.
+QPair<int, int> columnsOf(const QImage &shown, const QColor &colour)
+{
+    QPair<int, int> columns(-1, -1);
+    for (int x = 0; x < shown.width(); ++x)
+        for (int y = 0; y < shown.height(); ++y) {
+            if (shown.pixelColor(x, y) != colour) continue;
+            columns = {columns.first < 0 ? x : columns.first, x};
+        }
+    return columns;
+}
+} // namespace
 
 class tst_Controls : public QObject
 {
@@ -38,6 +55,10 @@ private slots:
     void aWindowFindsItsControlsByName();
     void anUnknownPointerIsRefused();
     void aPictureOfPixelsFillsItsBox();
+    void aPictureDrawnAheadLooksTheSame();
+    void aPictureDrawnAheadGivesWayToANewOne();
+    void wordsStandAtTheirAnchor_data();
+    void wordsStandAtTheirAnchor();
     void anArrayKnowsItsElementsByIndex();
     void aMissingElementIsRefused();
     void aTimerTicksWhileItIsEnabled();
@@ -292,6 +313,62 @@ void tst_Controls::aPictureOfPixelsFillsItsBox()
     const QImage shown = box.widget().grab().toImage();
     QCOMPARE(shown.pixelColor(0, 0), QColor(Qt::blue));
     QCOMPARE(shown.pixelColor(shown.width() - 1, shown.height() - 1), QColor(Qt::blue));
+}
+
+void tst_Controls::aPictureDrawnAheadLooksTheSame()
+{
+    Image image(*m_window, u"imgLogo"_s);
+    image.Move(0, 0, 1500, 420);
+    image.setPicture(u"logo"_s);
+    m_window->Show();
+    auto &view = static_cast<PictureView &>(image.widget());
+    const QImage painted = view.grab().toImage();
+    view.drawAhead();
+    QCOMPARE(view.grab().toImage(), painted);
+    view.drawAhead();
+    image.setWidth(3000);
+    QVERIFY(view.grab().toImage().copy(painted.rect()) != painted); // in the middle of the new room
+}
+
+void tst_Controls::aPictureDrawnAheadGivesWayToANewOne()
+{
+    Image image(*m_window, u"imgLogo"_s);
+    image.Move(0, 0, 1500, 420);
+    image.setPicture(u"logo"_s);
+    m_window->Show();
+    auto &view = static_cast<PictureView &>(image.widget());
+    const QImage logo = view.grab().toImage();
+    view.drawAhead();
+    image.setPicture(u"mark"_s);
+    QVERIFY(view.grab().toImage() != logo);
+}
+
+void tst_Controls::wordsStandAtTheirAnchor_data()
+{
+    QTest::addColumn<int>("anchor");
+    QTest::addColumn<double>("twipsWide");
+    QTest::addColumn<int>("place");
+    QTest::newRow("middle") << int(PictureWords::Middle) << 960.0 << 32;
+    QTest::newRow("middle, twice as large") << int(PictureWords::Middle) << 1920.0 << 64;
+    QTest::newRow("end") << int(PictureWords::End) << 960.0 << 29;
+}
+
+// The mark is 64 pixels large, and the letter has a little room on both sides.
+void tst_Controls::wordsStandAtTheirAnchor()
+{
+    QFETCH(int, anchor);
+    QFETCH(double, twipsWide);
+    QFETCH(int, place);
+    Image image(*m_window, u"imgLogo"_s);
+    image.Move(0, 0, twipsWide, twipsWide);
+    image.setPicture(u"mark"_s);
+    image.setWords({{u"H"_s, 32, 40, 22, true, QColor(Qt::red), static_cast<PictureWords::Anchors>(anchor)}});
+    m_window->Show();
+    const auto [first, last] = columnsOf(image.widget().grab().toImage(), QColor(Qt::red));
+    QVERIFY(first >= 0);
+    QVERIFY(last > first + 8);
+    const int found = anchor == PictureWords::Middle ? (first + last) / 2 : last;
+    QVERIFY2(std::abs(found - place) <= 1, qPrintable(QString::number(found)));
 }
 
 void tst_Controls::anArrayKnowsItsElementsByIndex()

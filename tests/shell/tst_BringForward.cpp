@@ -100,11 +100,11 @@ void tst_BringForward::aToolFindsItsWindow()
 
 void tst_BringForward::theFirstOfTwoMatchesComesForward()
 {
-    OpenTools(u"Emergency Plan"_s, u"406"_s);
+    OpenProcedures(u"Emergency Plan"_s, u"311"_s);
     OpenRecords(u"Emergency Plan"_s, u"511"_s);
     LooseTool loose(u"Emergency Plan"_s);
     OpenFromTool(loose.tool);
-    QCOMPARE(m_system->active()->Tag(), u"[Action Tools] - Emergency Plan"_s);
+    QCOMPARE(m_system->active()->Tag(), u"[Management Procedures] - Emergency Plan"_s);
 }
 
 void tst_BringForward::theWindowMenuMaximisesAMinimisedWindow()

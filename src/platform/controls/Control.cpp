@@ -93,6 +93,7 @@ QRect Control::room() const
 
 void Control::place()
 {
+    if (m_align != NotAligned) cling();
     const QPoint corner = room().topLeft();
     m_widget->setGeometry(corner.x() + toPixels(m_left), corner.y() + toPixels(m_top), toPixels(m_width),
                           toPixels(m_height));
@@ -103,19 +104,22 @@ void Control::setAlign(Alignments align)
     m_align = align;
     if (align == NotAligned) return;
     m_widget->parentWidget()->installEventFilter(this);
-    cling();
+    put();
 }
 
+// A control that clings has no place of its own but its height at the foot.
 void Control::cling()
 {
     const double roomHeight = toTwips(room().height());
-    const double height = m_align == AlignedBottom ? m_height : roomHeight;
-    Move(0, roomHeight - height, toTwips(room().width()), height);
+    if (m_align != AlignedBottom) m_height = roomHeight;
+    m_left = 0;
+    m_top = roomHeight - m_height;
+    m_width = toTwips(room().width());
 }
 
 bool Control::eventFilter(QObject *watched, QEvent *event)
 {
-    if (m_align != NotAligned && event->type() == QEvent::Resize && watched == m_widget->parentWidget()) cling();
+    if (m_align != NotAligned && event->type() == QEvent::Resize && watched == m_widget->parentWidget()) put();
     return false;
 }
 
@@ -176,6 +180,11 @@ void Control::SetFocus()
 {
     QWidget &target = m_widget->isVisibleTo(&m_form.surface()) ? focusTarget() : m_form.focusRest();
     target.setFocus(Qt::OtherFocusReason);
+}
+
+void Control::setTabAfter(const Control &before)
+{
+    QWidget::setTabOrder(&before.focusTarget(), &focusTarget());
 }
 
 void Control::Refresh()

@@ -68,6 +68,7 @@ public:
     void setMousePointer(int pointer); // one of MousePointers
 
     void SetFocus();
+    void setTabAfter(const Control &before); // Tab comes here from that control of the window
     void Refresh();
     void ZOrderBack(); // behind the other controls of its container
 

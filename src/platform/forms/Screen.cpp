@@ -1,6 +1,7 @@
 #include "platform/forms/Screen.h"
 
 #include "platform/controls/Control.h"
+#include "platform/controls/text/TakenText.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -18,9 +19,8 @@ bool clipboardHolds(int format)
 {
     const QMimeData *data = QApplication::clipboard()->mimeData();
     if (!data) return false;
-    if (format == PlainTextFormat) return data->hasText();
-    return format == RichTextFormat &&
-           (data->hasFormat(QStringLiteral("text/rtf")) || data->hasFormat(QStringLiteral("application/rtf")));
+    if (format == PlainTextFormat) return holdsPlainText(*data);
+    return format == RichTextFormat && holdsRichText(*data);
 }
 
 } // namespace orvane

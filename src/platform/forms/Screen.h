@@ -11,6 +11,6 @@ Control *screenActiveControl();
 
 enum ClipboardFormats { PlainTextFormat = 1, RichTextFormat = -16639 };
 
-bool clipboardHolds(int format); // one of ClipboardFormats
+bool clipboardHolds(int format); // one of ClipboardFormats; rich text is whatever a rich-text control takes as such
 
 } // namespace orvane

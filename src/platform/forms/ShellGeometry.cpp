@@ -26,7 +26,7 @@ constexpr int WakeMilliseconds = 20;
 void prepareFirstPaint(const QWidget &shell)
 {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // sends the window off
-    QFontMetrics(shell.font()).height();                                  // finds the fonts
+    QFontMetrics(shell.font()).height();                                 // finds the fonts
     for (PictureView *picture : shell.findChildren<PictureView *>(Qt::FindDirectChildrenOnly))
         picture->drawAhead();
 }

@@ -1,11 +1,23 @@
 #include "platform/controls/text/RichEdit.h"
 
+#include "platform/controls/text/EditMenu.h"
+#include "platform/controls/text/OfferedText.h"
+#include "platform/controls/text/TakenText.h"
+#include "platform/richtext/Rtf.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QImage>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QUrl>
+#include <algorithm>
+#include <array>
 
 namespace orvane
 {
@@ -31,6 +43,22 @@ int shiftOf(Qt::KeyboardModifiers modifiers)
     return (modifiers & Qt::ShiftModifier ? 1 : 0) + (modifiers & Qt::ControlModifier ? 2 : 0) +
            (modifiers & Qt::AltModifier ? 4 : 0);
 }
+
+struct EditKey {
+    QKeyCombination keys;
+    void (QTextEdit::*command)();
+    bool changes;
+};
+
+// The keys that not every desktop has of itself.
+constexpr std::array EditKeys{
+    EditKey{Qt::CTRL | Qt::Key_Z, &QTextEdit::undo, true},
+    EditKey{Qt::CTRL | Qt::Key_Y, &QTextEdit::redo, true},
+    EditKey{Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &QTextEdit::redo, true},
+    EditKey{Qt::SHIFT | Qt::Key_Delete, &QTextEdit::cut, true},
+    EditKey{Qt::CTRL | Qt::Key_Insert, &QTextEdit::copy, false},
+    EditKey{Qt::SHIFT | Qt::Key_Insert, &QTextEdit::paste, true},
+};
 } // namespace
 
 RichEdit::RichEdit()
@@ -38,6 +66,13 @@ RichEdit::RichEdit()
     setFrameShape(QFrame::NoFrame);
     setTabChangesFocus(true);
     viewport()->setMouseTracking(true);
+    document()->setLayoutEnabled(false); // a window that opens changes its size a few times
+}
+
+void RichEdit::setWrapWidth(int pixels)
+{
+    if (lineWrapColumnOrWidth() != pixels) setLineWrapColumnOrWidth(pixels);
+    setLineWrapMode(pixels > 0 ? FixedPixelWidth : WidgetWidth);
 }
 
 // An answer of nothing, or a picture that can't be read, would make the document look for the file itself.
@@ -57,23 +92,88 @@ void RichEdit::setOneLine()
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-// A middle click where nothing is selected anywhere has no source.
-void RichEdit::insertFromMimeData(const QMimeData *source)
+QMimeData *RichEdit::createMimeDataFromSelection() const
 {
-    if (!source || source->formats().isEmpty()) return;
-    if (m_oneLine)
-        insertPlainText(source->text().simplified());
-    else
-        QTextEdit::insertFromMimeData(source);
+    return new OfferedText(textCursor());
 }
 
-// Enter goes to the window's default button.
+// A middle click where nothing is selected anywhere has no source.
+bool RichEdit::canInsertFromMimeData(const QMimeData *source) const
+{
+    return !isReadOnly() && source && (holdsPlainText(*source) || (!m_oneLine && holdsRichText(*source)));
+}
+
+void RichEdit::insertFromMimeData(const QMimeData *source)
+{
+    if (!canInsertFromMimeData(source)) return;
+    QTextDocument piece;
+    piece.setUndoRedoEnabled(false);
+    piece.setDefaultFont(document()->defaultFont());
+    if (!m_oneLine && readRichText(*source, piece)) {
+        if (!fitTogether(*document(), piece)) return QApplication::beep();
+        insertPiece(piece);
+    } else if (const QString text = readPlainText(*source); !text.isEmpty()) {
+        QTextCursor(&piece).insertText(text, currentCharFormat());
+        if (!fitTogether(*document(), piece)) return QApplication::beep();
+        insertPlainText(m_oneLine ? text.simplified() : text);
+    }
+    ensureCursorVisible();
+}
+
+void RichEdit::insertPiece(const QTextDocument &piece)
+{
+    textCursor().insertFragment(QTextDocumentFragment(&piece));
+}
+
+// In a box of one line, Enter goes to the window's default button.
 void RichEdit::keyPressEvent(QKeyEvent *event)
 {
-    if (m_oneLine && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+    if (m_oneLine && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) return event->ignore();
+    const QKeyCombination keys = event->keyCombination();
+    const auto *known = std::find_if(EditKeys.begin(), EditKeys.end(), [&](auto &each) { return each.keys == keys; });
+    if (known == EditKeys.end()) return QTextEdit::keyPressEvent(event);
+    if (known->changes && isReadOnly()) return event->ignore();
+    (this->*known->command)();
+}
+
+// The toolkit takes what was composed into any text that can be selected.
+void RichEdit::inputMethodEvent(QInputMethodEvent *event)
+{
+    if (isReadOnly())
         event->ignore();
     else
-        QTextEdit::keyPressEvent(event);
+        QTextEdit::inputMethodEvent(event);
+}
+
+void RichEdit::contextMenuEvent(QContextMenuEvent *event)
+{
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    auto *menu = new EditMenu(*this);
+    menu->popup(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft()) : event->globalPos());
+}
+
+// The toolkit's own would make the letters of a read-only text larger.
+void RichEdit::wheelEvent(QWheelEvent *event)
+{
+    QAbstractScrollArea::wheelEvent(event);
+}
+
+void RichEdit::showEvent(QShowEvent *event)
+{
+    QTextEdit::showEvent(event);
+    if (!document()->isLayoutEnabled()) QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+}
+
+bool RichEdit::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest && isVisible()) document()->setLayoutEnabled(true);
+    return QTextEdit::event(event);
+}
+
+void RichEdit::paintEvent(QPaintEvent *event)
+{
+    document()->setLayoutEnabled(true);
+    QTextEdit::paintEvent(event);
 }
 
 void RichEdit::mouseReleaseEvent(QMouseEvent *event)

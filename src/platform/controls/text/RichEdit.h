@@ -1,4 +1,5 @@
-// The editor inside a rich-text control: tells of the mouse, and loads nothing that a document names.
+// The editor inside a rich-text control: tells of the mouse, and loads nothing that a document names. It exchanges rich
+// text with other programs. While it is read-only, nothing that the user can do changes its text.
 #pragma once
 
 #include <QTextEdit>
@@ -13,7 +14,9 @@ class RichEdit : public QTextEdit
 public:
     RichEdit();
 
-    void setOneLine(); // no scroll bars, no wrapping, and nothing that would begin a second paragraph
+    void setWrapWidth(int pixels); // 0 for the editor's own edge
+    void setOneLine();             // no scroll bars, no wrapping, and nothing that would begin a second paragraph
+    void insertPiece(const QTextDocument &piece); // in the place of the selection
 
 signals:
     void pressed();
@@ -21,9 +24,17 @@ signals:
     void moved(int button, int shift, const QPointF &place);
 
 protected:
+    QMimeData *createMimeDataFromSelection() const override;
+    bool canInsertFromMimeData(const QMimeData *source) const override;
     QVariant loadResource(int type, const QUrl &name) override;
     void insertFromMimeData(const QMimeData *source) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
 

@@ -5,9 +5,9 @@
 #include "platform/system/RunTimeError.h"
 
 #include <QFrame>
+#include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTextDocumentFragment>
 #include <algorithm>
 
 namespace orvane
@@ -20,7 +20,9 @@ RichTextBox::RichTextBox(Container &parent, const QString &name)
     connect(&m_edit, &RichEdit::pressed, this, &RichTextBox::Click);
     connect(&m_edit, &QTextEdit::cursorPositionChanged, this, &RichTextBox::SelChange);
     connect(&m_edit, &QTextEdit::selectionChanged, this, &RichTextBox::SelChange);
-    connect(&m_edit, &QTextEdit::textChanged, this, &RichTextBox::Change);
+    connect(&m_edit, &QTextEdit::textChanged, this, [this] {
+        if (m_tellsOfPuts || !m_putting) emit Change();
+    });
     connect(&m_edit, &RichEdit::released, this, [this, inTwips](int button, int shift, const QPointF &place) {
         emit MouseUp(button, shift, inTwips(place.x()), inTwips(place.y()));
     });
@@ -41,16 +43,19 @@ QString RichTextBox::TextRTF() const
 
 void RichTextBox::setTextRTF(const QString &rtf)
 {
+    const QScopedValueRollback putting(m_putting, true);
     readRtf(rtf, *m_edit.document());
     m_edit.moveCursor(QTextCursor::Start);
 }
 
 void RichTextBox::setSelRTF(const QString &rtf)
 {
+    const QScopedValueRollback putting(m_putting, true);
     QTextDocument piece;
     piece.setDefaultFont(m_edit.document()->defaultFont());
     readRtf(rtf, piece);
-    m_edit.textCursor().insertFragment(QTextDocumentFragment(&piece));
+    m_edit.insertPiece(piece);
+    m_edit.document()->clearUndoRedoStacks();
 }
 
 QString RichTextBox::Text() const
@@ -60,6 +65,7 @@ QString RichTextBox::Text() const
 
 void RichTextBox::setText(const QString &text)
 {
+    const QScopedValueRollback putting(m_putting, true);
     m_edit.setPlainText(text);
     m_edit.moveCursor(QTextCursor::Start);
 }
@@ -96,20 +102,20 @@ void RichTextBox::setRightMargin(double twips)
 {
     if (twips < 0) throw RunTimeError(InvalidPropertyValue, QStringLiteral("A right margin can't be negative."));
     m_rightMargin = twips;
-    m_edit.setLineWrapMode(twips > 0 ? QTextEdit::FixedPixelWidth : QTextEdit::WidgetWidth);
-    m_edit.setLineWrapColumnOrWidth(toPixels(twips));
-}
-
-bool RichTextBox::Locked() const
-{
-    return m_edit.isReadOnly();
+    m_edit.setWrapWidth(toPixels(twips));
 }
 
 void RichTextBox::setLocked(bool locked)
 {
-    m_edit.setReadOnly(locked);
+    m_locked = locked;
+    applyLock();
+}
+
+void RichTextBox::applyLock()
+{
+    m_edit.setReadOnly(barsEditing());
     // Reading by keyboard needs the caret too.
-    if (locked) m_edit.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    if (barsEditing()) m_edit.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 
 void RichTextBox::setGround(const QColor &ground, int margin)

@@ -19,11 +19,11 @@ class RichTextBox : public Control
 public:
     RichTextBox(Container &parent, const QString &name);
 
-    // Putting replaces the whole document and sets the caret to its start. A text that isn't rich text is shown as
-    // plain text.
+    // Putting replaces the whole document and sets the caret to its start; there is nothing to undo then. A text that
+    // isn't rich text is shown as plain text.
     QString TextRTF() const;
     void setTextRTF(const QString &rtf);
-    void setSelRTF(const QString &rtf); // in the place of the selection; the caret comes behind it
+    void setSelRTF(const QString &rtf); // in the place of the selection; the caret comes behind it; nothing to undo
     QString Text() const;
     void setText(const QString &text);
 
@@ -48,7 +48,7 @@ public:
 
     double RightMargin() const { return m_rightMargin; } // twips at which lines break, 0 for the control's own edge
     void setRightMargin(double twips);                   // a negative one is refused with error 380
-    bool Locked() const;
+    bool Locked() const { return m_locked; }
     void setLocked(bool locked);                                   // read, select and copy only
     void setFont(const QString &family, double points, bool bold); // of plain text
     void setGround(const QColor &ground, int margin);              // colour and pixels round the text
@@ -65,8 +65,15 @@ protected:
     QWidget &voice() const override;
     QWidget &focusTarget() const override { return widget(); }
 
+    void tellOfEditsOnly() { m_tellsOfPuts = false; } // no Change for a text that the program puts
+    virtual bool barsEditing() const { return m_locked; }
+    void applyLock(); // after a change of what barsEditing() says
+
 private:
     RichEdit &m_edit;
+    bool m_locked = false;
+    bool m_tellsOfPuts = true;
+    bool m_putting = false;
     double m_rightMargin = 0;
 };
 

@@ -26,6 +26,13 @@ public:
 
 signals:
     void Change();
+    void KeyPress(int keyAscii); // a key that stands for a character, before it has its effect
+    void KeyUp();                // any key
+    void GotFocus();             // from another control
+    void LostFocus();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QLineEdit *m_line = nullptr; // one of the two

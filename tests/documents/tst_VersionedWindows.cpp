@@ -1,0 +1,392 @@
+// The windows of the manual and the procedures: their pages, fields, links, closing, and where everything stands.
+#include "documents/VersionedFixture.h"
+#include "documents/frmEMMain.h"
+#include "documents/frmMPMain.h"
+#include "platform/system/Dates.h"
+#include "printing/frmPrint.h"
+#include "shell/SharedState.h"
+
+#include <QMdiSubWindow>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace orvane;
+using namespace orvane::test;
+
+class tst_VersionedWindows : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aWindowBearsItsNames_data() { addSisters(); }
+    void aWindowBearsItsNames();
+    void aPageToolShowsItsPage_data();
+    void aPageToolShowsItsPage();
+    void aPagingToolBringsTheNoticeAndNoPage_data() { addSisters(); }
+    void aPagingToolBringsTheNoticeAndNoPage();
+    void theDateIsShortInItsFieldAndLongOutside_data() { addSisters(); }
+    void theDateIsShortInItsFieldAndLongOutside();
+    void whatIsNoDateStaysAsItIs();
+    void anEmptyDateIsRepaired();
+    void tabGoesThroughTheFields_data() { addSisters(); }
+    void tabGoesThroughTheFields();
+    void printingHandsOverTheJob_data();
+    void printingHandsOverTheJob();
+    void aLinkOpensItsModule_data();
+    void aLinkOpensItsModule();
+    void closeLeadsToTheDiagram_data() { addSisters(); }
+    void closeLeadsToTheDiagram();
+    void theCloseBoxUnloadsToo_data() { addSisters(); }
+    void theCloseBoxUnloadsToo();
+    void theBarGoesBeforeOrAfterTheWindow();
+    void theBlankBandNeverShows();
+    void everyPartHasItsPlace_data();
+    void everyPartHasItsPlace();
+    void aFieldTooNarrowKeepsItsWidth();
+    void aMinimizedWindowIsNotLaidOut_data() { addSisters(); }
+    void aMinimizedWindowIsNotLaidOut();
+    void theFirstLayoutTakesTheSizeOfTheFrame_data() { addSisters(); }
+    void theFirstLayoutTakesTheSizeOfTheFrame();
+    void theLinesBreakShortOfTheEdge_data() { addSisters(); }
+    void theLinesBreakShortOfTheEdge();
+};
+
+void tst_VersionedWindows::aWindowBearsItsNames()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    const bool manual = sister == Sister::Manual;
+    QCOMPARE(open.window->pnlNumber.Caption(), manual ? u"Section 4.4.7"_s : u"C11"_s);
+    QCOMPARE(open.window->pnlHeading.Caption(), open.facts.title);
+    QCOMPARE(open.window->Tag(),
+             (manual ? u"[Environmental Manual] - "_s : u"[Management Procedures] - "_s) + open.facts.title);
+    QCOMPARE(open.window->Caption(), open.facts.title);
+    QCOMPARE(open.system.frame().Caption(),
+             manual ? u"orvane (Environment Manual)"_s : u"orvane (Management Procedures)"_s);
+}
+
+void tst_VersionedWindows::aPageToolShowsItsPage_data()
+{
+    QTest::addColumn<Sister>("sister");
+    QTest::addColumn<QString>("tool");
+    QTest::addColumn<QString>("tag");
+    const auto row = [](Sister sister, const char *tool, const char *tag) {
+        QTest::addRow("%s %s", sister == Sister::Manual ? "manual" : "procedures", tool)
+            << sister << QString::fromLatin1(tool) << QString::fromLatin1(tag);
+    };
+    row(Sister::Manual, "Procedures", "202");
+    row(Sister::Manual, "References", "203");
+    row(Sister::Manual, "Commitment", "219");
+    row(Sister::Procedures, "Responsibility", "303");
+    row(Sister::Procedures, "Method", "304");
+    row(Sister::Procedures, "Records", "305");
+    row(Sister::Procedures, "References", "306");
+    row(Sister::Procedures, "Aim", "311");
+}
+
+void tst_VersionedWindows::aPageToolShowsItsPage()
+{
+    QFETCH(Sister, sister);
+    QFETCH(QString, tool);
+    const VersionedSystem open(sister);
+    open.pressPage(tool);
+    QVERIFY2(open.window->rtfData.Text().startsWith(tool + u'\n'), qPrintable(open.window->rtfData.Text().left(40)));
+    QCOMPARE(open.checkedPages(), QStringList(tool));
+    QTEST(open.tags->tags().join(u' '), "tag");
+}
+
+void tst_VersionedWindows::aPagingToolBringsTheNoticeAndNoPage()
+{
+    QFETCH(Sister, sister);
+    VersionedSystem open(sister);
+    open.pressPage(open.facts.pages[1]);
+    const QString text = open.window->rtfData.Text();
+    for (const char *tool : {"First", "Prev", "Next", "Last"}) {
+        open.pressPaging(QString::fromLatin1(tool));
+        QCOMPARE(open.window->rtfData.Text(), text);
+        QCOMPARE(open.checkedPages(), QStringList(open.facts.pages[1]));
+    }
+}
+
+void tst_VersionedWindows::theDateIsShortInItsFieldAndLongOutside()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    open.toOwn();
+    open.window->txtDate.SetFocus();
+    QCOMPARE(open.window->txtDate.Text(), u"1999/03/31"_s);
+    open.type(open.window->txtDate, u"2001/4/5"_s);
+    open.window->txtIssue.SetFocus();
+    QCOMPARE(open.window->txtDate.Text(), u"April 5, 2001"_s);
+    open.window->txtDate.SetFocus();
+    QCOMPARE(open.window->txtDate.Text(), u"2001/04/05"_s);
+}
+
+void tst_VersionedWindows::whatIsNoDateStaysAsItIs()
+{
+    const VersionedSystem open(Sister::Procedures);
+    open.toOwn();
+    open.type(open.window->txtDate, u"next week"_s);
+    open.window->txtIssue.SetFocus();
+    QCOMPARE(open.window->txtDate.Text(), u"next week"_s);
+    open.window->txtDate.SetFocus();
+    QCOMPARE(open.window->txtDate.Text(), u"next week"_s);
+}
+
+void tst_VersionedWindows::anEmptyDateIsRepaired()
+{
+    const VersionedSystem open(Sister::Procedures);
+    open.toOwn();
+    open.window->txtDate.SetFocus();
+    QTest::keySequence(&open.window->txtDate.widget(), QKeySequence::SelectAll);
+    QTest::keyClick(&open.window->txtDate.widget(), Qt::Key_Delete);
+    QCOMPARE(open.window->txtDate.Text(), QString());
+    open.pressLink(u"Save"_s);
+    QVERIFY(IsDate(open.window->txtDate.Text()));
+}
+
+void tst_VersionedWindows::tabGoesThroughTheFields()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    open.toOwn();
+    open.window->control(open.facts.tabOrder.front())->SetFocus();
+    QStringList order;
+    for (int field = 0; field < 3; ++field) {
+        order << open.window->ActiveControl()->Name();
+        QTest::keyClick(&open.window->ActiveControl()->widget(), Qt::Key_Tab);
+    }
+    QCOMPARE(order, open.facts.tabOrder);
+}
+
+void tst_VersionedWindows::printingHandsOverTheJob_data()
+{
+    QTest::addColumn<Sister>("sister");
+    QTest::addColumn<bool>("own");
+    QTest::addColumn<QString>("tool");
+    QTest::addColumn<QStringList>("tags");
+    QTest::addColumn<QString>("document");
+    const QString manual = u"Environment Manual"_s;
+    const QString procedures = u"Management Procedures"_s;
+    QTest::newRow("manual") << Sister::Manual << false << u"prtPartial"_s << QStringList{u"205"_s} << manual;
+    QTest::newRow("manual, own") << Sister::Manual << true << u"prtPartial"_s << QStringList{u"205"_s} << manual;
+    QTest::newRow("procedures") << Sister::Procedures << false << u"prtPartial"_s << QStringList{u"1"_s, u"310"_s}
+                                << procedures;
+    QTest::newRow("whole procedure, own")
+        << Sister::Procedures << true << u"prtComplete"_s << QStringList{u"2"_s, u"310"_s} << procedures;
+}
+
+void tst_VersionedWindows::printingHandsOverTheJob()
+{
+    QFETCH(Sister, sister);
+    QFETCH(bool, own);
+    QFETCH(QString, tool);
+    const VersionedSystem open(sister);
+    if (own) open.toOwn();
+    open.tags->clear();
+    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {tool}));
+    QTEST(open.tags->tags(), "tags");
+    QTEST(Default<frmPrint>().vs.DocName(), "document");
+    QVERIFY(Default<frmPrint>().vs.PageCount() > 0);
+}
+
+void tst_VersionedWindows::aLinkOpensItsModule_data()
+{
+    QTest::addColumn<Sister>("sister");
+    QTest::addColumn<QStringList>("path");
+    QTest::addColumn<QString>("tag");
+    QTest::addColumn<QString>("key");
+    const auto row = [](Sister sister, const char *module, const char *link, const char *tag, const char *key) {
+        QTest::addRow("%s %s", sister == Sister::Manual ? "manual" : "procedures", link)
+            << sister << QStringList{QString::fromLatin1(module), QString::fromLatin1(link)} << QString::fromLatin1(tag)
+            << QString::fromLatin1(key);
+    };
+    const char *guide = "[Implementation Guide] - STEP 17 - Emergency Preparedness and Response";
+    row(Sister::Manual, "mnuIG", "IGlinks", "127", guide);
+    row(Sister::Manual, "mnuMP", "btnemp", "311", "[Management Procedures] - Emergency Planning");
+    row(Sister::Manual, "mnuAT", "btnat", "406", "[Action Tools] - Emergency Plan Ideas");
+    row(Sister::Manual, "mnuRC", "btnRC", "511", "[Records] - Emergency Plan");
+    row(Sister::Procedures, "mnuIG", "IGlinks", "127", guide);
+    row(Sister::Procedures, "mnuEM", "btnEM", "219", "[Environmental Manual] - Emergency Preparedness and Response");
+    row(Sister::Procedures, "mnuAT", "btnepi", "406", "[Action Tools] - Emergency Plan Ideas");
+    row(Sister::Procedures, "mnuRC", "btnRC", "511", "[Records] - Emergency Plan");
+}
+
+void tst_VersionedWindows::aLinkOpensItsModule()
+{
+    QFETCH(Sister, sister);
+    QFETCH(QStringList, path);
+    QFETCH(QString, tag);
+    QFETCH(QString, key);
+    const VersionedSystem open(sister);
+    for (int round = 0; round < 2; ++round) {
+        open.window->SetFocus();
+        open.tags->clear();
+        QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"RelatedTopics"_s, path));
+        QCOMPARE(open.system.active()->Tag(), key);
+        QCOMPARE(open.tags->tags(), QStringList(tag));
+    }
+}
+
+void tst_VersionedWindows::closeLeadsToTheDiagram()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    Shared().DiagramLayoutHeld = True;
+    open.pressLink(u"Close"_s);
+    QCOMPARE(open.tags->tags(), QStringList(sister == Sister::Manual ? u"207"_s : u"307"_s));
+    QCOMPARE(open.system.active(), &open.system.diagram());
+    QCOMPARE(open.system.diagram().WindowState(), int(Maximized));
+    QCOMPARE(countWindows(open.facts.shellName), 0);
+}
+
+void tst_VersionedWindows::theCloseBoxUnloadsToo()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    open.toOwn();
+    open.typeInPage(u"typed"_s);
+    open.window->subWindow().close();
+    QCOMPARE(countWindows(open.facts.shellName), 0);
+    for (const auto &entry : open.system.frame().mnuMain.Bands(u"mnuWindow"_s).Tools())
+        QVERIFY(!entry->Name().contains(open.facts.title));
+}
+
+// The procedures take their bar away and hide then, the manual the other way round.
+void tst_VersionedWindows::theBarGoesBeforeOrAfterTheWindow()
+{
+    for (const Sister sister : {Sister::Manual, Sister::Procedures}) {
+        const VersionedSystem open(sister);
+        class Order : public QObject
+        {
+        public:
+            QStringList events;
+            bool eventFilter(QObject *watched, QEvent *event) override
+            {
+                if (event->type() == QEvent::HideToParent) events << watched->objectName();
+                return false;
+            }
+        } order;
+        open.window->shell().installEventFilter(&order);
+        open.window->mnuLinks.widget().installEventFilter(&order);
+        open.window->Unload();
+        QVERIFY(order.events.size() >= 2);
+        QCOMPARE(order.events.front(), sister == Sister::Manual ? u"frmEMMain"_s : u"mnuLinks"_s);
+    }
+}
+
+void tst_VersionedWindows::theBlankBandNeverShows()
+{
+    const VersionedSystem open(Sister::Manual);
+    QCOMPARE(open.window->mnuNav.Bands(1).Name(), u"Blank"_s);
+    QVERIFY(!open.window->mnuNav.Bands(1).Visible());
+    open.pressPage(u"References"_s);
+    QVERIFY(!open.window->mnuNav.Bands(1).Visible());
+}
+
+void tst_VersionedWindows::everyPartHasItsPlace_data()
+{
+    QTest::addColumn<Sister>("sister");
+    QTest::addColumn<QSize>("size"); // pixels inside
+    for (const auto &[name, sister] : {std::pair("manual", Sister::Manual), {"procedures", Sister::Procedures}})
+        for (const QSize size : {QSize(1000, 700), QSize(640, 330), QSize(420, 240), QSize(260, 150), QSize(180, 90)})
+            QTest::addRow("%s %d x %d", name, size.width(), size.height()) << sister << size;
+}
+
+void tst_VersionedWindows::everyPartHasItsPlace()
+{
+    QFETCH(Sister, sister);
+    QFETCH(QSize, size);
+    const VersionedSystem open(sister);
+    VersionedWindow &window = *open.window;
+    window.setWindowState(Normal);
+    const QSize frame = window.shell().size() - window.surface().size();
+    window.shell().setMinimumSize(1, 1);
+    window.shell().resize(size + frame);
+    QTRY_COMPARE(window.surface().size(), size);
+    const double w = toTwips(size.width());
+    const double h = toTwips(size.height());
+    QCOMPARE(window.ssMnu.Width(), w);
+    QCOMPARE(window.imgLogo.Left(), w - 1500);
+    if (w > 2955) QCOMPARE(window.pnlHeading.Width(), w - 1500 - 1455);
+    QCOMPARE(window.ssMnuLinks.Top(), h - 375);
+    QCOMPARE(window.ssMnuLinks.Width(), w);
+    QCOMPARE(window.pnlBottom.Width(), w);
+    QCOMPARE(window.pnlBottom.Top(), h - 375 - 420);
+    QCOMPARE(window.rtfData.Width(), w);
+    QCOMPARE(window.rtfData.RightMargin(), w - 430);
+    QCOMPARE(window.rtfData.Top(), 765.0);
+    if (h > 1560) QCOMPARE(window.rtfData.Height(), h - 795 - 765);
+    QCOMPARE(window.txtIssue.Left(), 595.0);
+    QCOMPARE(window.txtIssue.Width(), w / 5 - 465 - 10);
+    QCOMPARE(window.lblDate.Left(), 595 + w / 5 - 475 + 10);
+    QCOMPARE(window.txtDate.Left(), window.lblDate.Left() + 495 + 10);
+    QCOMPARE(window.txtDate.Width(), w / 5 - 20);
+    QCOMPARE(window.lblAuthorized.Left(), window.txtDate.Left() + w / 5 - 20 + 10);
+    QCOMPARE(window.txtAuthorized.Left(), window.lblAuthorized.Left() + 1005 + 10);
+    QCOMPARE(window.txtAuthorized.Width(), w / 5 + w / 5 - 1005 - 10);
+    QCOMPARE(window.gradient.Width(), w - 1500);
+}
+
+// Below 2375 twips the issue's width would be negative, below 2538 the authority's.
+void tst_VersionedWindows::aFieldTooNarrowKeepsItsWidth()
+{
+    const VersionedSystem open(Sister::Procedures);
+    VersionedWindow &window = *open.window;
+    window.setWindowState(Normal);
+    QTRY_COMPARE(window.WindowState(), int(Normal));
+    const double issue = window.txtIssue.Width();
+    const double authorized = window.txtAuthorized.Width();
+    const QSize frame = window.shell().size() - window.surface().size();
+    window.shell().setMinimumSize(1, 1);
+    window.shell().resize(QSize(150, 200) + frame);
+    QTRY_COMPARE(window.surface().width(), 150);
+    QCOMPARE(window.txtIssue.Width(), issue);
+    QCOMPARE(window.txtAuthorized.Width(), authorized);
+    QCOMPARE(window.txtDate.Width(), 2250.0 / 5 - 20);
+    QCOMPARE(window.lblDate.Left(), window.txtIssue.Left() + window.txtIssue.Width() + 10);
+}
+
+void tst_VersionedWindows::aMinimizedWindowIsNotLaidOut()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    VersionedWindow &window = *open.window;
+    const double left = window.imgLogo.Left();
+    window.imgLogo.setLeft(77);
+    window.setWindowState(Minimized);
+    QTRY_COMPARE(window.WindowState(), int(Minimized));
+    window.Form_Resize();
+    QCOMPARE(window.imgLogo.Left(), 77.0);
+    window.setWindowState(Maximized);
+    QTRY_COMPARE(window.imgLogo.Left(), left);
+}
+
+void tst_VersionedWindows::theFirstLayoutTakesTheSizeOfTheFrame()
+{
+    QFETCH(Sister, sister);
+    RunningSystem system;
+    system.start();
+    Shared().FrameScaleWidth = 9001;
+    Shared().FrameScaleHeight = 6002;
+    VersionedWindow *window = nullptr;
+    if (sister == Sister::Manual)
+        window = new frmEMMain;
+    else
+        window = new frmMPMain;
+    OpenWindowCore(*window, u"Title"_s, u"219"_s);
+    QCOMPARE(window->ssMnu.Width(), 9001.0);
+    QCOMPARE(window->ssMnuLinks.Top(), 6002.0 - 375);
+    window->Form_Resize();
+    QCOMPARE(window->ssMnu.Width(), window->ScaleWidth());
+}
+
+void tst_VersionedWindows::theLinesBreakShortOfTheEdge()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    QCOMPARE(open.window->rtfData.RightMargin(), open.window->ScaleWidth() - 430);
+    QCOMPARE(open.page().lineWrapColumnOrWidth(), toPixels(open.window->ScaleWidth() - 430));
+}
+
+QTEST_MAIN(tst_VersionedWindows)
+#include "tst_VersionedWindows.moc"
