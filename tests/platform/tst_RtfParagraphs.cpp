@@ -3,8 +3,8 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QTest>
-#include <QTextList>
 #include <QTextLayout>
+#include <QTextList>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;

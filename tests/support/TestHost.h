@@ -43,7 +43,7 @@ public:
     QByteArray readFile(const QString &name) const;
     void removeFile(const QString &name) const;
 
-    void advance(int milliseconds); // ticks the timers that fall due
+    void advance(int milliseconds);                      // ticks the timers that fall due
     void setToday(const QDate &date) { m_today = date; } // 3 February 2001 until then
     int runningTimers() const { return static_cast<int>(m_timers.size()); }
 
