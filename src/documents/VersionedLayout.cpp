@@ -1,6 +1,7 @@
 // The parts of a window with versions: how they are made and wired, and where they stand in a window of any size.
 
 #include "documents/VersionedWindow.h"
+#include "platform/controls/Palette.h"
 #include "platform/forms/DefaultInstance.h"
 #include "platform/forms/Wiring.h"
 #include "platform/system/Dates.h"
@@ -12,6 +13,11 @@
 
 namespace orvane
 {
+
+namespace
+{
+constexpr int PageMargin = 12; // pixels round the text
+}
 
 VersionedWindow::VersionedWindow(const VersionedDesign &design)
     : MDIChild(Default<mdiMain>(), design.name), gradient(*this, QStringLiteral("zelGradient"), zelGradient::Strip),
@@ -40,6 +46,7 @@ void VersionedWindow::placeControls()
     for (SSPanel *panel : {&pnlNumber, &pnlHeading})
         panel->setFont(QStringLiteral("Arial"), 9.75, true);
     rtfData.setFont(QStringLiteral("Times New Roman"), 9.75, false);
+    rtfData.setGround(palette::White, PageMargin);
     imgLogo.setPicture(QStringLiteral("logo"));
     imgLogo.setPurpose(QStringLiteral("orvane"));
     imgLogo.ZOrderBack(); // the bar covers its foot
@@ -60,6 +67,10 @@ void VersionedWindow::placeFields()
     lblIssue.setCaption(QStringLiteral("Issue:"));
     lblDate.setCaption(QStringLiteral("Date:"));
     lblAuthorized.setCaption(QStringLiteral("Authorized by:"));
+    for (Label *label : {&lblIssue, &lblDate, &lblAuthorized}) {
+        label->setFont(QStringLiteral("MS Sans Serif"), 8.25, false);
+        label->setOneLine();
+    }
     txtIssue.setPurpose(QStringLiteral("Issue"));
     txtDate.setPurpose(QStringLiteral("Date"));
     txtAuthorized.setPurpose(QStringLiteral("Authorized by"));

@@ -55,6 +55,7 @@ private slots:
     void aWindowFindsItsControlsByName();
     void anUnknownPointerIsRefused();
     void aPictureOfPixelsFillsItsBox();
+    void aLabelOfOneLineFitsItsWidth();
     void aPictureDrawnAheadLooksTheSame();
     void aPictureDrawnAheadGivesWayToANewOne();
     void wordsStandAtTheirAnchor_data();
@@ -299,6 +300,21 @@ void tst_Controls::anUnknownPointerIsRefused()
     QCOMPARE(errorOf([&] { label.setMousePointer(2); }), int(InvalidPropertyValue));
     QCOMPARE(label.MousePointer(), int(ArrowQuestionPointer));
     QCOMPARE(label.widget().cursor().shape(), Qt::WhatsThisCursor);
+}
+
+void tst_Controls::aLabelOfOneLineFitsItsWidth()
+{
+    Label label(*m_window, u"lblAuthorized"_s);
+    label.Move(0, 0, 1005, 195);
+    label.setFont(u"MS Sans Serif"_s, 8.25, false);
+    label.setCaption(u"Authorized by:"_s);
+    label.setOneLine();
+    const auto advance = [&] { return label.widget().fontMetrics().horizontalAdvance(label.Caption()); };
+    QVERIFY(advance() <= label.widget().width());
+    label.setWidth(3000);
+    QCOMPARE(label.widget().font().stretch(), int(QFont::Unstretched));
+    label.setWidth(60);
+    QCOMPARE(label.widget().font().stretch(), 80);
 }
 
 void tst_Controls::aPictureOfPixelsFillsItsBox()

@@ -9,6 +9,11 @@
 namespace orvane
 {
 
+namespace
+{
+constexpr int LeastStretch = 80; // percent
+}
+
 Label::Label(Container &parent, const QString &name)
     : Control(parent, name, new QLabel), m_label(static_cast<QLabel &>(widget()))
 {
@@ -26,12 +31,32 @@ QString Label::Caption() const
 void Label::setCaption(const QString &caption)
 {
     m_label.setText(caption);
+    squeeze();
     speak();
 }
 
 void Label::setFont(const QString &family, double points, bool bold)
 {
     orvane::setFont(m_label, family, points, bold);
+    squeeze();
+}
+
+void Label::setOneLine()
+{
+    m_oneLine = true;
+    m_label.setWordWrap(false);
+    squeeze();
+}
+
+void Label::squeeze()
+{
+    if (!m_oneLine) return;
+    QFont font = m_label.font();
+    int stretch = QFont::Unstretched;
+    do
+        font.setStretch(stretch--);
+    while (stretch >= LeastStretch && QFontMetrics(font).horizontalAdvance(m_label.text()) > m_label.width());
+    m_label.setFont(font);
 }
 
 void Label::setForeColor(int colour)
@@ -44,6 +69,11 @@ void Label::setForeColor(int colour)
 void Label::setCentered()
 {
     m_label.setAlignment(Qt::AlignCenter);
+}
+
+void Label::moved()
+{
+    squeeze();
 }
 
 bool Label::eventFilter(QObject *watched, QEvent *event)

@@ -20,15 +20,20 @@ public:
     void setFont(const QString &family, double points, bool bold);
     void setForeColor(int colour); // blue, green, red
     void setCentered();
+    void setOneLine(); // its letters become narrower, down to four fifths, where its width asks for it
 
 signals:
     void Click();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void moved() override;
 
 private:
+    void squeeze();
+
     QLabel &m_label;
+    bool m_oneLine = false;
 };
 
 } // namespace orvane

@@ -10,6 +10,7 @@ namespace orvane
 namespace
 {
 constexpr int CaptionMargin = 10; // pixels
+constexpr int EndMargin = 2;      // numbers of sections have just their room
 constexpr double CardRadius = 6;
 } // namespace
 
@@ -38,7 +39,7 @@ void PanelWidget::paintEvent(QPaintEvent *)
     const bool onColour = m_look == SSPanel::TitleBar;
     painter.setPen(onColour ? palette::Paper : palette::Ink);
     painter.setFont(font());
-    const QRect room = rect().adjusted(CaptionMargin, 0, -CaptionMargin, 0);
+    const QRect room = rect().adjusted(CaptionMargin, 0, -EndMargin, 0);
     painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
                      fontMetrics().elidedText(m_caption, Qt::ElideRight, room.width()));
 }

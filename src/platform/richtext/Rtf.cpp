@@ -61,6 +61,11 @@ void readRtf(QStringView text, QTextDocument &document)
     document.setModified(false);
 }
 
+bool fitTogether(const QTextDocument &one, const QTextDocument &other)
+{
+    return heightOf(one) + heightOf(other) <= TallestWithPastes;
+}
+
 QString writeRtf(const QTextDocument &document)
 {
     return RtfWriter().write(document);

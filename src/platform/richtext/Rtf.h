@@ -25,6 +25,9 @@ bool isRtf(QStringView text);
 // Any input is taken: what can't be read is left out. The read ends with the group that the text begins with.
 void readRtf(QStringView text, QTextDocument &document);
 
+// False where the two documents would make one that is taller than can be laid out.
+bool fitTogether(const QTextDocument &one, const QTextDocument &other);
+
 // The shortest RTF, on one line of ASCII characters, that reads back to the same document.
 QString writeRtf(const QTextDocument &document);
 

@@ -16,9 +16,7 @@ constexpr qsizetype MostLooks = 4096;
 // The time for a list grows with the square of the items. A bullet looks the same in any list.
 constexpr int MostListItems = 64;
 
-// The toolkit never comes back from laying out what is taller than 8,388,607 pixels. Heights count in thousandths,
-// since sums have to come out the same however the text is cut.
-constexpr qint64 TallestDocument = 6'000'000'000;
+// Heights count in thousandths, since sums have to come out the same however the text is cut.
 constexpr qsizetype PieceLength = 1024;
 
 qint64 lineHeight(const RtfCharacters &characters)
@@ -34,7 +32,26 @@ qint64 heightOf(QStringView text, const RtfCharacters &characters)
     return lineHeight(characters) * breaks + lineHeight(characters) / charactersInLine * text.size();
 }
 
+qint64 heightOf(const QTextBlock &block, const RtfCharacters &defaults)
+{
+    const QTextBlockFormat format = block.blockFormat();
+    qint64 height = lineHeight(charactersOf(block.charFormat(), defaults)) +
+                    qint64(1000 * (format.topMargin() + format.bottomMargin()));
+    for (auto at = block.begin(); !at.atEnd(); ++at)
+        height += heightOf(at.fragment().text(), charactersOf(at.fragment().charFormat(), defaults));
+    return height;
+}
+
 } // namespace
+
+qint64 heightOf(const QTextDocument &document)
+{
+    const RtfCharacters defaults = charactersOf(document.defaultFont());
+    qint64 height = 0;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        height += heightOf(block, defaults);
+    return height;
+}
 
 void RtfBuilder::addText(QStringView text, const RtfCharacters &characters)
 {

@@ -10,6 +10,13 @@ class QTextList;
 namespace orvane
 {
 
+// Heights count in thousandths of a pixel, as tall as a text gets in a narrow view. The toolkit never comes back from
+// laying out what is taller than 8,388,607 pixels. What is read ends at the first of these, and nothing may grow by a
+// paste beyond the second.
+inline constexpr qint64 TallestDocument = 6'000'000'000;
+inline constexpr qint64 TallestWithPastes = 7'500'000'000;
+qint64 heightOf(const QTextDocument &document);
+
 class RtfBuilder
 {
 public:
