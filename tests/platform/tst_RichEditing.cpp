@@ -85,8 +85,7 @@ void tst_RichEditing::cleanup()
 
 QMenu *tst_RichEditing::openMenu() const
 {
-    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), edit().mapToGlobal(QPoint(5, 5)));
-    QCoreApplication::sendEvent(edit().viewport(), &event);
+    QTest::mouseClick(edit().viewport(), Qt::RightButton, Qt::NoModifier, QPoint(5, 5));
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 

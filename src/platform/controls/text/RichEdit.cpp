@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QUrl>
@@ -145,11 +146,16 @@ void RichEdit::inputMethodEvent(QInputMethodEvent *event)
         QTextEdit::inputMethodEvent(event);
 }
 
+// A menu that opened on the mouse's press would swallow its release.
 void RichEdit::contextMenuEvent(QContextMenuEvent *event)
 {
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    if (event->reason() != QContextMenuEvent::Mouse) openMenu(viewport()->mapToGlobal(cursorRect().bottomLeft()));
+}
+
+void RichEdit::openMenu(const QPoint &place)
+{
     auto *menu = new EditMenu(*this);
-    menu->popup(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft()) : event->globalPos());
+    menu->popup(place);
 }
 
 // The toolkit's own would make the letters of a read-only text larger.
@@ -179,8 +185,10 @@ void RichEdit::paintEvent(QPaintEvent *event)
 void RichEdit::mouseReleaseEvent(QMouseEvent *event)
 {
     QTextEdit::mouseReleaseEvent(event);
+    const QPointer<RichEdit> self = this;
     if (event->button() == Qt::LeftButton) emit pressed();
     emit released(numberOf(event->button()), shiftOf(event->modifiers()), event->position());
+    if (self && isVisible() && event->button() == Qt::RightButton) openMenu(event->globalPosition().toPoint());
 }
 
 void RichEdit::mouseMoveEvent(QMouseEvent *event)

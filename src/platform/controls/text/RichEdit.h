@@ -39,6 +39,8 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
+    void openMenu(const QPoint &place);
+
     bool m_oneLine = false;
 };
 
