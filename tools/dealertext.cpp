@@ -68,7 +68,9 @@ bool writeAll(const QString &name, const QByteArray &bytes, QString &reason)
 {
     if (name == "-"_L1) return writeStandardOutput(bytes, reason);
     QSaveFile file(name);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return true;
+    // A commit overlooks what its own flush couldn't write.
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit())
+        return true;
     reason = "cannot write \"%1\": %2"_L1.arg(name, file.errorString());
     return false;
 }

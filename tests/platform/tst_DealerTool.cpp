@@ -4,6 +4,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+#include <sys/resource.h>
+
 using namespace Qt::Literals::StringLiterals;
 
 class tst_DealerTool : public QObject
@@ -26,6 +29,7 @@ private slots:
     void aTextThatIsNotThereIsAFailure();
     void aResultThatCannotBeWrittenIsAFailure();
     void aFullStandardOutputIsAFailure();
+    void aFullDiskKeepsTheOldFile();
 
 private:
     int run(const QStringList &arguments, const QByteArray &input = {});
@@ -223,6 +227,26 @@ void tst_DealerTool::aFullStandardOutputIsAFailure()
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 1);
     QVERIFY(process.readAllStandardError().contains("cannot write the standard output"));
+}
+
+// No file of the tool's may grow beyond ten bytes.
+void tst_DealerTool::aFullDiskKeepsTheOldFile()
+{
+    write(u"out"_s, "old");
+    QProcess process;
+    process.setChildProcessModifier([] {
+        constexpr rlimit Room{10, 10};
+        setrlimit(RLIMIT_FSIZE, &Room);
+        std::signal(SIGXFSZ, SIG_IGN);
+    });
+    process.start(QStringLiteral(ORVANE_TOOLS_DIR "/dealertext"), {u"scramble"_s, u"-"_s, path(u"out"_s)});
+    QVERIFY(process.waitForStarted());
+    process.write("Harbor Office Supplies");
+    process.closeWriteChannel();
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardError().contains("cannot write"));
+    QCOMPARE(read(u"out"_s), "old"_ba);
 }
 
 QTEST_GUILESS_MAIN(tst_DealerTool)

@@ -28,9 +28,9 @@ bool writeHeader(const QString &fileName, const QString &value = u"new"_s)
 }
 
 // A file that is longer than a write gets room for.
-QByteArray longFile()
+QByteArray longFile(int body = 200'000)
 {
-    return "[127]\r\nHeader=old\r\nRTF=" + QByteArray(200'000, 'x') + "\r\n";
+    return "[127]\r\nHeader=old\r\nRTF=" + QByteArray(body, 'x') + "\r\n";
 }
 
 // Writes in a process of its own after that was prepared, and gives what waitpid tells of it.
@@ -48,11 +48,11 @@ int writeInOwnProcess(const QString &fileName, Prepare prepare)
 }
 
 // No file may grow beyond this from now on, as on a full disk.
-void limitFileSize(void (*onReached)(int))
+void limitFileSize(void (*onReached)(int), rlim_t bytes = 100'000)
 {
-    constexpr rlimit Room{100'000, 100'000};
+    const rlimit room{bytes, bytes};
     constexpr rlimit NoDump{0, 0};
-    setrlimit(RLIMIT_FSIZE, &Room);
+    setrlimit(RLIMIT_FSIZE, &room);
     setrlimit(RLIMIT_CORE, &NoDump);
     std::signal(SIGXFSZ, onReached);
 }
@@ -81,6 +81,7 @@ private slots:
     void aReadOnlyFolderKeepsTheOldFile();
     void aReadOnlyFileIsKept();
     void anUnreadableFileIsKept();
+    void aFullDiskKeepsTheOldFile_data();
     void aFullDiskKeepsTheOldFile();
     void anEndInTheMiddleKeepsTheOldFile();
     void aSecondReaderFindsTheOldOrTheNewValue();
@@ -152,13 +153,26 @@ void tst_ProfileSafety::anUnreadableFileIsKept()
     QCOMPARE(file.bytes(), "[127]\nHeader=old\n"_ba);
 }
 
+void tst_ProfileSafety::aFullDiskKeepsTheOldFile_data()
+{
+    QTest::addColumn<int>("body");
+    QTest::addColumn<int>("missing"); // bytes of the file that the disk has no room for
+    for (const int body : {10, 5'000, 16'384, 65'536, 70'000, 200'000})
+        for (const int missing : {1, 20, body})
+            QTest::addRow("%d of %d", missing, body) << body << missing;
+}
+
 void tst_ProfileSafety::aFullDiskKeepsTheOldFile()
 {
-    const ProfileBytes file(longFile());
-    const int status = writeInOwnProcess(file.name(), [] { limitFileSize(SIG_IGN); });
+    QFETCH(int, body);
+    QFETCH(int, missing);
+    const QByteArray before = longFile(body);
+    const ProfileBytes file(before);
+    const rlim_t room = rlim_t(before.size() - missing);
+    const int status = writeInOwnProcess(file.name(), [room] { limitFileSize(SIG_IGN, room); });
     QVERIFY(WIFEXITED(status));
     QCOMPARE(WEXITSTATUS(status), Refused);
-    QVERIFY(file.bytes() == longFile());
+    QVERIFY(file.bytes() == before);
     QCOMPARE(filesIn(file.folder()), QStringList{u"DemoData.ini"_s});
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -37,6 +38,11 @@ private slots:
     void aFileWrittenByHandIsReadAsText();
     void aBrokenFileIsTheDefault();
     void aSaveThatCannotBeWrittenGoesUnreported();
+    void savesInQuickSuccessionAreAllReadBack();
+    void aNewFileIsForTheUsersEyesAlone();
+    void theFilesPermissionsStay();
+    void aLinkToTheFileStaysALink();
+    void nothingIsLeftBesideTheFile();
 
 private:
     QString fileName() const { return m_folder->filePath(Application + u".ini"_s); }
@@ -208,6 +214,53 @@ void tst_SettingsStore::aSaveThatCannotBeWrittenGoesUnreported()
     setSettingsFolder(file.fileName());
     SaveSetting(Application, Section, u"Name"_s, u"Pat"_s);
     QVERIFY(!QFile::exists(file.fileName() + u"/orvane Quillmark CD.ini"_s));
+}
+
+// A file of the same length, written in the same moment.
+void tst_SettingsStore::savesInQuickSuccessionAreAllReadBack()
+{
+    for (int i = 100; i < 300; ++i) {
+        const QString value = QString::number(i);
+        SaveSetting(Application, Section, u"Name"_s, value);
+        QCOMPARE(GetSetting(Application, Section, u"Name"_s), value);
+    }
+}
+
+void tst_SettingsStore::aNewFileIsForTheUsersEyesAlone()
+{
+    SaveSetting(Application, Section, u"Name"_s, u"Pat"_s);
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    QVERIFY(!(QFile::permissions(fileName()) & others));
+    QVERIFY(QFile::permissions(fileName()).testFlag(QFile::WriteOwner));
+}
+
+void tst_SettingsStore::theFilesPermissionsStay()
+{
+    SaveSetting(Application, Section, u"Name"_s, u"Pat"_s);
+    QVERIFY(QFile::setPermissions(fileName(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
+    const QFile::Permissions before = QFile::permissions(fileName());
+    SaveSetting(Application, Section, u"Name"_s, u"Jo"_s);
+    QCOMPARE(QFile::permissions(fileName()), before);
+}
+
+void tst_SettingsStore::aLinkToTheFileStaysALink()
+{
+    const QTemporaryDir elsewhere;
+    const QString target = elsewhere.filePath(u"settings"_s);
+    SaveSetting(Application, Section, u"Name"_s, u"Pat"_s);
+    QVERIFY(QFile::rename(fileName(), target));
+    QVERIFY(QFile::link(target, fileName()));
+    SaveSetting(Application, Section, u"Name"_s, u"Jo"_s);
+    QVERIFY(QFileInfo(fileName()).isSymLink());
+    QCOMPARE(QFile::symLinkTarget(fileName()), target);
+    QCOMPARE(valueFromDisk(u"Name"_s), u"Jo"_s);
+}
+
+void tst_SettingsStore::nothingIsLeftBesideTheFile()
+{
+    SaveSetting(Application, Section, u"Name"_s, u"Pat"_s);
+    const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    QCOMPARE(QDir(m_folder->path()).entryList(everything), QStringList{Application + u".ini"_s});
 }
 
 QTEST_GUILESS_MAIN(tst_SettingsStore)

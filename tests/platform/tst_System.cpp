@@ -54,6 +54,8 @@ private slots:
     void aMessageWithoutTitleBearsTheProgramsOwn();
     void theMachinesMessageBox_data();
     void theMachinesMessageBox();
+    void aMessageGoesByTheKeys_data();
+    void aMessageGoesByTheKeys();
     void aMessageIsNeverTakenForMarkup();
     void theHostBeforeIsHandedBack();
 };
@@ -267,6 +269,30 @@ void tst_System::theMachinesMessageBox()
     });
     MsgBox(u"Mind <b>this</b>"_s, style, u"Title"_s);
     QVERIFY(seen);
+}
+
+void tst_System::aMessageGoesByTheKeys_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+    QTest::newRow("Escape") << Qt::Key_Escape;
+    QTest::newRow("Space") << Qt::Key_Space;
+}
+
+void tst_System::aMessageGoesByTheKeys()
+{
+    QFETCH(Qt::Key, key);
+    bool gone = false;
+    QTimer::singleShot(0, this, [&] {
+        QWidget *box = QApplication::activeModalWidget();
+        if (!box || !QTest::qWaitForWindowActive(box)) return;
+        QTest::keyClick(QApplication::focusWidget(), key);
+        gone = !box->isVisible();
+        box->close();
+    });
+    MsgBox(u"Mind this"_s);
+    QVERIFY(gone);
 }
 
 void tst_System::aMessageIsNeverTakenForMarkup()

@@ -59,7 +59,7 @@ void tst_ReadRegistryString::aKeyThatCantBeOpenedGivesASentence()
     QFETCH(quint32, rootKey);
     QFETCH(QString, subKey);
     store(u"Ada"_s);
-    QCOMPARE(ReadRegistryString(subKey, rootKey, u"DefName"_s), u"Not recorded on this machine"_s);
+    QCOMPARE(ReadRegistryString(subKey, rootKey, u"DefName"_s), u"This machine has no record."_s);
 }
 
 void tst_ReadRegistryString::aMissingValueIsEmpty()
@@ -103,7 +103,9 @@ void tst_ReadRegistryString::trimmingTakesTheFirstCharacters_data()
     QTest::newRow("NUL at the length") << u"Ada"_s + Nul + u"  "_s << 4 << u"Ada"_s;
     QTest::newRow("no NUL at the length") << u"Ada"_s + Nul + u"  "_s << 3 << u"Ada"_s;
     QTest::newRow("NUL before the length") << u"A"_s + Nul + u"da"_s << 3 << u"A"_s + Nul + u"d"_s;
+    QTest::newRow("NUL alone") << QString(Nul) << 1 << u""_s;
     QTest::newRow("no length") << u"Ada"_s << 0 << u""_s;
+    QTest::newRow("a length behind the end") << u"Ada"_s + Nul << 9 << u"Ada"_s + Nul;
 }
 
 void tst_ReadRegistryString::trimmingTakesTheFirstCharacters()

@@ -4,6 +4,7 @@
 #include "shell/frmAbout.h"
 #include "support/RunningSystem.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -59,6 +60,10 @@ private slots:
     void okUnloadsTheWindow();
     void enterAndEscapePressOk_data();
     void enterAndEscapePressOk();
+    void enterOnTheOtherButtonPressesThatOne();
+    void escapePressesOkFromAnywhere_data();
+    void escapePressesOkFromAnywhere();
+    void theButtonsBearTheirCaptions();
     void theWindowIsModalAndGoesWithOk();
     void theMenuShowsItModally();
     void withoutToolThereIsAMessageAndNothingElse();
@@ -69,6 +74,7 @@ private slots:
     void aSharedToolIsStarted();
     void aSharedToolWithoutSuchAFileGivesTheMessage();
     void aSharedToolThatCantBeStartedGivesTheMessage();
+    void theKeysOfTheCreditsShowThem_data();
     void theKeysOfTheCreditsShowThem();
     void otherKeysShowNoCredits_data();
     void otherKeysShowNoCredits();
@@ -154,6 +160,40 @@ void tst_frmAbout::enterAndEscapePressOk()
     show();
     QTest::keyClick(&about().shell(), key);
     QVERIFY(!isLoaded());
+}
+
+void tst_frmAbout::enterOnTheOtherButtonPressesThatOne()
+{
+    m_system->host.expectMessage(unavailable());
+    show();
+    about().cmdSysInfo.SetFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(m_system->host.messages().size(), 1U);
+    QVERIFY(isLoaded());
+}
+
+void tst_frmAbout::escapePressesOkFromAnywhere_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("cmdOK") << u"cmdOK"_s;
+    QTest::newRow("cmdSysInfo") << u"cmdSysInfo"_s;
+}
+
+void tst_frmAbout::escapePressesOkFromAnywhere()
+{
+    QFETCH(QString, name);
+    show();
+    about().control(name)->SetFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QVERIFY(!isLoaded());
+    QVERIFY(m_system->host.messages().empty());
+}
+
+void tst_frmAbout::theButtonsBearTheirCaptions()
+{
+    QCOMPARE(about().cmdOK.Caption(), u"OK"_s);
+    QCOMPARE(about().cmdSysInfo.Caption(), u"&System Info..."_s);
+    QCOMPARE(about().lblVersion.Caption(), u"Version 1.0"_s);
 }
 
 void tst_frmAbout::theWindowIsModalAndGoesWithOk()
@@ -258,13 +298,20 @@ void tst_frmAbout::aSharedToolThatCantBeStartedGivesTheMessage()
     QVERIFY(!QFile::exists(inFolder(u"started"_s)));
 }
 
+void tst_frmAbout::theKeysOfTheCreditsShowThem_data()
+{
+    escapePressesOkFromAnywhere_data();
+}
+
 void tst_frmAbout::theKeysOfTheCreditsShowThem()
 {
+    QFETCH(QString, name);
     m_system->host.expectAnyMessage();
     show();
-    QTest::keyClick(&about().shell(), Qt::Key_A, Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    about().control(name)->SetFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
     QCOMPARE(m_system->host.messages().size(), 1U);
-    QVERIFY(!m_system->host.messages()[0].text.isEmpty());
+    QVERIFY(m_system->host.messages()[0].text.endsWith(u'.'));
     QCOMPARE(m_system->host.messages()[0].style, static_cast<int>(NoIcon));
     QVERIFY(about().Visible());
 }

@@ -6,6 +6,8 @@
 #include "shell/modFunctions.h"
 #include "support/RunningSystem.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 
@@ -21,7 +23,7 @@ QString userInfo()
 
 QString fallback()
 {
-    return QStringLiteral("Not recorded on this machine");
+    return QStringLiteral("This machine has no record.");
 }
 
 const QChar Nul(u'\0');
@@ -99,6 +101,11 @@ private slots:
     void anEmptyStoredNameIsEmpty();
     void okStoresTheTextsAsTheyStand_data();
     void okStoresTheTextsAsTheyStand();
+    void detailsOfAnyKindComeBackAsTheyWere_data();
+    void detailsOfAnyKindComeBackAsTheyWere();
+    void pastedDetailsAreStoredAsTheyStand_data();
+    void pastedDetailsAreStoredAsTheyStand();
+    void aStoreThatCanNotBeWrittenIsNotReported();
     void okTellsTheOtherWindows();
     void okUnloadsTheDialog();
     void okBringsUpAPreviewOfTheGuide();
@@ -221,6 +228,72 @@ void tst_frmProperties::okStoresTheTextsAsTheyStand()
     m_system->click(dialog().cmdOK);
     QCOMPARE(stored(u"Name"_s), name);
     QCOMPARE(stored(u"Company"_s), company);
+}
+
+namespace
+{
+void addDetails()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("quotes") << u"\"Ada\" 'Lindqvist' \""_s;
+    QTest::newRow("a blank as percent code") << u"Ada%20Lindqvist"_s;
+    QTest::newRow("line breaks") << u"Ada\r\nLindqvist\n"_s;
+    QTest::newRow("emoji") << u"Ada \U0001F600\U0001F3ED"_s;
+    QTest::newRow("10,000 characters") << QString(9'999, u'x') + u'z';
+}
+} // namespace
+
+void tst_frmProperties::detailsOfAnyKindComeBackAsTheyWere_data()
+{
+    addDetails();
+}
+
+void tst_frmProperties::detailsOfAnyKindComeBackAsTheyWere()
+{
+    QFETCH(QString, text);
+    store(text, text);
+    m_system->start();
+    show();
+    QCOMPARE(dialog().txtUserName.Text(), text);
+    QCOMPARE(dialog().txtUserCompany.Text(), text);
+    m_system->click(dialog().cmdOK);
+    QCOMPARE(stored(u"Name"_s), text);
+    QCOMPARE(stored(u"Company"_s), text);
+    QCOMPARE(dialog().txtUserName.Text(), text);
+}
+
+void tst_frmProperties::pastedDetailsAreStoredAsTheyStand_data()
+{
+    addDetails();
+}
+
+void tst_frmProperties::pastedDetailsAreStoredAsTheyStand()
+{
+    QFETCH(QString, text);
+    m_system->start();
+    show();
+    QApplication::clipboard()->setText(text);
+    for (const TextBox *box : {&dialog().txtUserName, &dialog().txtUserCompany}) {
+        QTest::keyClick(&box->widget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&box->widget(), Qt::Key_V, Qt::ControlModifier);
+    }
+    m_system->click(dialog().cmdOK);
+    QCOMPARE(stored(u"Name"_s), text);
+    QCOMPARE(stored(u"Company"_s), text);
+}
+
+void tst_frmProperties::aStoreThatCanNotBeWrittenIsNotReported()
+{
+    m_system->start();
+    show();
+    m_system->host.writeFile(u"settings"_s, "a file, and no folder");
+    setSettingsFolder(m_system->host.folder() + u"/settings"_s);
+    type(dialog().txtUserName, u"Ada"_s);
+    m_system->click(dialog().cmdOK);
+    QVERIFY(m_system->host.messages().empty());
+    QVERIFY(Shared().UserDetailsSaved == True);
+    QVERIFY(!isLoaded());
+    QCOMPARE(stored(u"Name"_s), u"(not stored)"_s);
 }
 
 void tst_frmProperties::okTellsTheOtherWindows()

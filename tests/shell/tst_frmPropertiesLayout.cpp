@@ -1,6 +1,8 @@
 // The places of the dialog's controls, the way of the keyboard through them, and what they say.
+#include "platform/system/RegistryStandIn.h"
 #include "platform/system/SettingsStore.h"
 #include "shell/DialogLooks.h"
+#include "shell/ReadRegistryString.h"
 #include "shell/frmProperties.h"
 #include "support/RunningSystem.h"
 
@@ -43,6 +45,7 @@ private slots:
     void itsTextHasRoom_data();
     void itsTextHasRoom();
     void theBoxesHaveRoomForALine();
+    void theOfferedSentenceIsToBeSeenWhole();
     void aControlSaysWhatItIsFor_data();
     void aControlSaysWhatItIsFor();
     void tabGoesThroughTheControlsInTheirOrder();
@@ -126,6 +129,16 @@ void tst_frmPropertiesLayout::theBoxesHaveRoomForALine()
     dialog().Show();
     for (const TextBox *box : {&dialog().txtUserName, &dialog().txtUserCompany})
         QVERIFY(box->widget().fontMetrics().height() <= box->widget().height() - 4);
+}
+
+// What is offered where the machine has no record of its user.
+void tst_frmPropertiesLayout::theOfferedSentenceIsToBeSeenWhole()
+{
+    const QString sentence = ReadRegistryString(u"Nothing"_s, HKEY_USERS, u"DefName"_s);
+    QVERIFY(sentence.front().isUpper() && sentence.endsWith(u'.'));
+    dialog().Show();
+    for (const TextBox *box : {&dialog().txtUserName, &dialog().txtUserCompany})
+        QVERIFY(box->widget().fontMetrics().horizontalAdvance(sentence) <= box->widget().width() - 12);
 }
 
 void tst_frmPropertiesLayout::aControlSaysWhatItIsFor_data()

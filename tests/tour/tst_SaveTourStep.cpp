@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTest>
+#include <csignal>
+#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -45,6 +47,29 @@ private:
     QString m_folder;
     bool m_isRoot = false;
 };
+
+// No file may grow beyond this, as on a disk that has room for no more.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes) : m_signalBefore(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit room{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &room);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_signalBefore);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    void (*m_signalBefore)(int);
+    rlimit m_before{};
+};
 } // namespace
 
 class tst_SaveTourStep : public QObject
@@ -67,6 +92,8 @@ private slots:
     void aBodyOutsideThePageComesBack();
     void aBodyBeyondTheReadersLimitIsSavedWhole();
     void aFileWithoutRightsStaysAndNothingIsReported();
+    void aFullDiskKeepsTheStepAndNothingIsReported_data();
+    void aFullDiskKeepsTheStepAndNothingIsReported();
     void aFolderInItsPlaceIsNotReported();
     void saveIsBelowTheEdgeAndSavesTheStepOnShow();
     void aSaveBeforeAnyStepGoesUnderZero();
@@ -250,6 +277,30 @@ void tst_SaveTourStep::aFileWithoutRightsStaysAndNothingIsReported()
     QCOMPARE(file(), before);
     QVERIFY(m_system->host.messages().empty());
     QVERIFY(!m_system->host.exitCode());
+}
+
+void tst_SaveTourStep::aFullDiskKeepsTheStepAndNothingIsReported_data()
+{
+    QTest::addColumn<int>("filler");
+    QTest::newRow("a short file") << 0;
+    QTest::newRow("a long file") << 100'000;
+}
+
+void tst_SaveTourStep::aFullDiskKeepsTheStepAndNothingIsReported()
+{
+    QFETCH(int, filler);
+    const QByteArray before = step("127", "128/cc/1") + ';' + QByteArray(filler, '-') + "\r\n";
+    write(before);
+    ShowTourStep(u"127"_s);
+    console().Header.setText(u"A heading that is longer than the one before"_s);
+    {
+        const FullDisk disk(rlim_t(before.size()));
+        clickSave();
+    }
+    QCOMPARE(file(), before);
+    QVERIFY(m_system->host.messages().empty());
+    QVERIFY(!m_system->host.exitCode());
+    QCOMPARE(QDir(m_system->host.folder()).entryList({u"DemoData.ini*"_s}), QStringList{u"DemoData.ini"_s});
 }
 
 void tst_SaveTourStep::aFolderInItsPlaceIsNotReported()

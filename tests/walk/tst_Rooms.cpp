@@ -14,6 +14,7 @@ private slots:
     void headersLeaveTheOtherRoomsAlone_data() { addRooms(); }
     void headersLeaveTheOtherRoomsAlone();
     void thePlatformKnowsNoRoom();
+    void nothingSpeaksToANetwork();
 
 private:
     static QStringList rooms();
@@ -94,6 +95,17 @@ void tst_Rooms::thePlatformKnowsNoRoom()
     for (const Include &include : includes)
         QVERIFY2(include.target.startsWith(u'<') || include.target.startsWith(QStringLiteral("\"platform/")),
                  qPrintable(include.file + u' ' + include.target));
+}
+
+// The services of accounts count too: they may ask a directory on another machine.
+void tst_Rooms::nothingSpeaksToANetwork()
+{
+    static const QRegularExpression network(QStringLiteral(
+        R"(^<(Qt?Network|QHost|QTcp|QUdp|QSsl|QLocalS|QDns|QAbstractSocket|pwd\.h|grp\.h|netdb\.h|sys/socket|netinet|arpa))"));
+    const auto includes = includesUnder(QString(), sources());
+    QVERIFY(includes.size() > 500);
+    for (const Include &include : includes)
+        QVERIFY2(!network.match(include.target).hasMatch(), qPrintable(include.file + u' ' + include.target));
 }
 
 QTEST_GUILESS_MAIN(tst_Rooms)

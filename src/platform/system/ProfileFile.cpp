@@ -89,7 +89,7 @@ bool writeProfileString(const QString &section, const QString &key, const QStrin
     const QByteArray insertion = profileInsertion(*place, section, key, value);
     if (after.write(insertion) != insertion.size()) return false;
     if (!isNew && !(before.seek(place->end) && copyPieces(before, ToTheEnd, after))) return false;
-    return after.commit();
+    return after.flush() && after.commit(); // a commit overlooks what its own flush couldn't write
 }
 
 } // namespace orvane
