@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QVariant>
+#include <algorithm>
 
 namespace orvane
 {
@@ -111,9 +112,9 @@ void Control::setAlign(Alignments align)
 void Control::cling()
 {
     const double roomHeight = toTwips(room().height());
-    if (m_align != AlignedBottom) m_height = roomHeight;
+    if (m_align == AlignedAllOver) m_height = std::max(0.0, roomHeight); // bars may leave less than nothing
     m_left = 0;
-    m_top = roomHeight - m_height;
+    m_top = m_align == AlignedBottom ? roomHeight - m_height : 0;
     m_width = toTwips(room().width());
 }
 

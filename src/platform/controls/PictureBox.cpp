@@ -23,6 +23,14 @@ PictureObject PictureBox::Picture() const
 void PictureBox::setPicture(const PictureObject &picture)
 {
     m_view.setPixels(picture);
+    if (!m_autoSize) return;
+    const QSize size = picture.image().size();
+    Move(Left(), Top(), toTwips(size.width()), toTwips(size.height()));
+}
+
+void PictureBox::setAutoSize(bool autoSize)
+{
+    m_autoSize = autoSize;
 }
 
 void PictureBox::setBackColor(const QColor &colour)

@@ -19,6 +19,7 @@ public:
     void setPicture(const QString &name); // a drawing: a file under pictures/, without its ending
     PictureObject Picture() const;        // of pixels; blank where there is none
     void setPicture(const PictureObject &picture);
+    void setAutoSize(bool autoSize); // the box takes the size of each picture of pixels that it is given
     void setBackColor(const QColor &colour);
 
     QWidget &surface() override { return widget(); }
@@ -26,6 +27,7 @@ public:
 
 private:
     PictureView &m_view;
+    bool m_autoSize = false;
 };
 
 } // namespace orvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QString>
 
 namespace orvane
 {
@@ -12,10 +13,15 @@ public:
     PictureObject() = default;
     explicit PictureObject(const QImage &image) : m_image(image) {}
 
-    const QImage &image() const { return m_image; }
+    // One of the program's own bitmaps: a file under records/, without its ending; error 53 where there is none. It is
+    // decoded when somebody first looks at it, and held once for all who do.
+    static PictureObject stored(const QString &name);
+
+    const QImage &image() const;
 
 private:
     QImage m_image;
+    QString m_name; // of a bitmap of the program
 };
 
 } // namespace orvane

@@ -25,11 +25,16 @@ public:
     void setCaption(const QString &caption);
     void setFont(const QString &family, double points, bool bold);
 
+    // The field of a data source that the panel is meant for. It is a name only: there is no data source.
+    QString DataField() const { return m_dataField; }
+    void setDataField(const QString &field) { m_dataField = field; }
+
     QWidget &surface() override { return widget(); }
     Form &form() override { return Control::form(); }
 
 private:
     PanelWidget &m_panel;
+    QString m_dataField;
 };
 
 } // namespace orvane
