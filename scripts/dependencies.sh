@@ -3,7 +3,9 @@
 
 # shellcheck disable=SC2034  # the lists are for those who source this
 {
-    packages_build=(g++ cmake ninja-build ccache mold qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-documentation-tools)
+    # The record pictures are drawn during the build, with these two fonts.
+    packages_build=(g++ cmake ninja-build ccache mold qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-documentation-tools
+        fonts-liberation fonts-kaushanscript)
     # The fonts stand in for the ones that the documents name; the help file is a database; xdpyinfo tells whether a
     # display answers.
     packages_run=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite x11-utils)

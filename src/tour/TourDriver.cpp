@@ -7,21 +7,16 @@
 #include "shell/frmProperties.h"
 #include "shell/mdiMain.h"
 #include "shell/modFunctions.h"
+#include "tour/MoveVerbs.h"
 #include "tour/TourScript.h"
 
 #include <map>
-#include <set>
 
 namespace orvane
 {
 
 namespace
 {
-using Verb = void (*)(const TourScript &);
-using Verbs = std::map<QString, Verb>;
-using Opener = void (*)(const QString &, const QString &);
-using Openers = std::map<QString, Opener>;
-
 MDIChild &activeWindow()
 {
     MDIChild *window = Default<mdiMain>().ActiveForm();
@@ -31,64 +26,47 @@ MDIChild &activeWindow()
 
 bool moduleIsActive()
 {
-    static const std::set<QString> modules{QStringLiteral("frmIGSteps"), QStringLiteral("frmEMMain"),
-                                           QStringLiteral("frmMPMain"), QStringLiteral("frmATMain"),
-                                           QStringLiteral("frmRCMain")};
-    return modules.contains(activeWindowName());
+    return isModuleWindow(activeWindowName());
 }
 
-void openWith(const Openers &openers, const TourScript &script)
+void openWindow(const TourScript &script, Way way)
 {
-    const auto opener = openers.find(script.field(2));
-    if (opener != openers.end()) opener->second(script.field(3), script.field(4));
+    using Opener = void (*)(const QString &, const QString &);
+    static const std::map<std::u16string_view, Opener> openers{
+        {u"IG", OpenGuide}, {u"EM", OpenManual}, {u"MP", OpenProcedures}, {u"AT", OpenTools}, {u"RC", OpenRecords}};
+    if (const ModuleRow *module = moduleNamed(script.field(2), way))
+        openers.at(module->code)(script.field(3), script.field(4));
 }
 
-void openForward(const TourScript &script)
-{
-    static const Openers openers{{QStringLiteral("IG"), OpenGuide},
-                                 {QStringLiteral("EM"), OpenManual},
-                                 {QStringLiteral("MP"), OpenProcedures},
-                                 {QStringLiteral("AT"), OpenTools},
-                                 {QStringLiteral("RC"), OpenRecords}};
-    openWith(openers, script);
-}
-
-void openBack(const TourScript &script)
-{
-    static const Openers openers{
-        {QStringLiteral("IG"), OpenGuide}, {QStringLiteral("EM"), OpenManual}, {QStringLiteral("RC"), OpenRecords}};
-    openWith(openers, script);
-}
-
-void pressRibbon(const TourScript &script)
+void pressRibbon(const TourScript &script, Way)
 {
     Default<frmCommandCentre>().SSRibbon1(toInteger(script.lastCharacter())).setValue(true);
 }
 
-void pressMenu(const TourScript &script)
+void pressMenu(const TourScript &script, Way)
 {
     auto &frame = Default<mdiMain>();
     Tool &tool = barOf(frame, QStringLiteral("mnuMain")).Bands(script.field(2)).Tools(script.field(3));
     frame.names().call(QStringLiteral("mnuMain_Click"), {&tool});
 }
 
-void pressPage(const TourScript &script)
+void pressPage(const TourScript &script, Way)
 {
     if (moduleIsActive()) pressInActiveWindow(QStringLiteral("mnuNav"), script.field(2), script.field(3));
 }
 
-void pressLink(const TourScript &script)
+void pressLink(const TourScript &script, Way)
 {
     if (moduleIsActive()) pressAndLayOut(QStringLiteral("mnuLinks"), script.field(2), script.field(3));
 }
 
-void pressPreview(const TourScript &script)
+void pressPreview(const TourScript &script, Way)
 {
     if (activeWindowName() == QStringLiteral("frmPrint"))
         pressAndLayOut(QStringLiteral("mnuPrintPreview"), script.field(2), script.field(3));
 }
 
-void releaseMouse(const TourScript &)
+void releaseMouse(const TourScript &, Way)
 {
     CallArguments arguments;
     arguments.button = 1;
@@ -97,20 +75,24 @@ void releaseMouse(const TourScript &)
     activeWindow().names().call(QStringLiteral("rtfData_MouseUp"), arguments);
 }
 
-void closeTips(const TourScript &)
+void closeTips(const TourScript &, Way)
 {
     activeWindow().names().call(QStringLiteral("cmdTipsClose_Click"));
 }
 
-void confirmDetails(const TourScript &)
+void confirmDetails(const TourScript &, Way)
 {
     Default<frmProperties>().cmdOK_Click();
 }
 
-void run(const Verbs &verbs, const TourScript &script)
+void run(const TourScript &script, Way way)
 {
-    const auto verb = verbs.find(script.field(1));
-    if (verb != verbs.end()) verb->second(script);
+    using Act = void (*)(const TourScript &, Way);
+    static const std::map<Verb, Act> acts{
+        {Verb::OpenWindow, openWindow},     {Verb::PressRibbon, pressRibbon}, {Verb::PressMenu, pressMenu},
+        {Verb::PressPage, pressPage},       {Verb::PressLink, pressLink},     {Verb::PressPreview, pressPreview},
+        {Verb::ReleaseMouse, releaseMouse}, {Verb::CloseTips, closeTips},     {Verb::ConfirmDetails, confirmDetails}};
+    if (const VerbRow *row = verbNamed(script.field(1), way)) acts.at(row->verb)(script, way);
 }
 } // namespace
 
@@ -137,21 +119,12 @@ void pressAndLayOut(const QString &bar, const QString &band, const QString &tool
 
 void moveForward(const TourScript &script)
 {
-    static const Verbs verbs{{QStringLiteral("cf"), openForward},   {QStringLiteral("cc"), pressRibbon},
-                             {QStringLiteral("mm"), pressMenu},     {QStringLiteral("mn"), pressPage},
-                             {QStringLiteral("ml"), pressLink},     {QStringLiteral("pp"), pressPreview},
-                             {QStringLiteral("rc"), releaseMouse},  {QStringLiteral("cb"), closeTips},
-                             {QStringLiteral("po"), confirmDetails}};
-    run(verbs, script);
+    run(script, Way::Forward);
 }
 
 void moveBack(const TourScript &script)
 {
-    static const Verbs verbs{{QStringLiteral("cf"), openBack},     {QStringLiteral("cc"), pressRibbon},
-                             {QStringLiteral("mn"), pressPage},    {QStringLiteral("ml"), pressLink},
-                             {QStringLiteral("rc"), releaseMouse}, {QStringLiteral("cb"), closeTips},
-                             {QStringLiteral("pp"), pressPreview}};
-    run(verbs, script);
+    run(script, Way::Back);
 }
 
 } // namespace orvane

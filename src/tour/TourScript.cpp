@@ -7,7 +7,7 @@ namespace orvane
 
 QString TourScript::field(int index) const
 {
-    if (index > m_text.count(u'/'))
+    if (!has(index))
         throw RunTimeError(SubscriptOutOfRange,
                            QStringLiteral("The script \"%1\" has no field %2.").arg(m_text).arg(index));
     return m_text.section(u'/', index, index);

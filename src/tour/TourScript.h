@@ -13,6 +13,7 @@ public:
 
     // Neither a step without a move nor a button that no step has reached yet.
     bool moves() const { return m_text != QStringLiteral("(none)") && !m_text.isEmpty(); }
+    bool has(int index) const { return index <= m_text.count(u'/'); }
     QString field(int index) const; // from 0; error 9 where the script has too few
     QString lastCharacter() const { return m_text.right(1); }
 
