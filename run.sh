@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the program, with whatever that needs, and opens it. Where there is no display the tour walks by itself on a
-# virtual one, and leaves a picture of each step.
+# virtual one, and leaves a page with a picture of each step, and the documents as PDF files.
 set -euo pipefail
 CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")"
 source scripts/dependencies.sh
@@ -18,7 +18,7 @@ open_program() {
 walk() {
     echo "There is no display here, so the tour walks by itself on a virtual one."
     start_virtual_display
-    "$programs/tourwalk" --out "$PWD/out" # ends by telling how many pictures are there
+    "$programs/tourwalk" --out "$PWD/out" # ends with a line of figures
 }
 
 main() {

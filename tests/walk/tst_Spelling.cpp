@@ -49,7 +49,8 @@ void tst_Spelling::textsAreSpelledInOneWay_data()
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QStringList>("files");
     QTest::newRow("the program's texts") << u"src"_s << QStringList{u"*.cpp"_s, u"*.h"_s};
-    QTest::newRow("the texts that it reads") << u"data"_s << QStringList{u"*.ini"_s, u"*.txt"_s, u"*.svg"_s, u"*.form"_s};
+    QTest::newRow("the texts that it reads")
+        << u"data"_s << QStringList{u"*.ini"_s, u"*.txt"_s, u"*.svg"_s, u"*.form"_s};
 }
 
 void tst_Spelling::textsAreSpelledInOneWay()

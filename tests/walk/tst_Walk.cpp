@@ -1,197 +1,193 @@
 // The whole program, walked by its own tour script from the first step to the last and back.
-#include "documents/frmIGSteps.h"
-#include "shell/modFunctions.h"
-#include "support/RunningSystem.h"
-#include "tour/modDemo.h"
+#include "platform/controls/bars/ActiveBar.h"
+#include "tour/DealerText.h"
+#include "walk/Walker.h"
 
-#include <QFile>
-#include <QRegularExpression>
+#include <QAbstractButton>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
 using namespace orvane::test;
 
-namespace
-{
-constexpr int MostSteps = 200; // a script that goes round in circles ends here
-QString none()
-{
-    return u"(none)"_s;
-}
-
-QByteArray tourScript()
-{
-    QFile file(QStringLiteral(ORVANE_SOURCE_DIR "/data/DemoData.ini"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList sections()
-{
-    QStringList tags;
-    static const QRegularExpression heading(u"^\\[(\\d+)\\]"_s, QRegularExpression::MultilineOption);
-    for (auto match = heading.globalMatch(QString::fromLatin1(tourScript())); match.hasNext();)
-        tags << match.next().captured(1);
-    return tags;
-}
-
-bool isEnd(const QString &tag)
-{
-    return tag == u"603"_s || tag == u"604"_s;
-}
-} // namespace
-
 class tst_Walk : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { m_walker.emplace(); }
+    void cleanup() { m_walker.reset(); }
     void nextLeadsFromTheFirstStepToTheLast();
+    void everyStepShowsSomethingInTheFrame();
+    void everyModuleIsSeenOnTheWay();
     void backLeadsFromTheLastStepToTheFirst();
+    void backShowsWhatTheStepHadShown();
     void aClickInTheOpeningTextLeadsToTheLastStepToo();
-    void everyTabIsSeenOnTheWay();
+    void anIntroThatWasLeftAloneLeadsIntoTheTour();
     void theWalkEndsWithTheDealersLines();
-    void everyStepCanBeLeftByItsButtons_data();
-    void everyStepCanBeLeftByItsButtons();
+    void theHelpLeavesTheConsoleInView();
+    void aMutedPreviewDoesNotDisturbTheWalk_data();
+    void aMutedPreviewDoesNotDisturbTheWalk();
 
 private:
-    frmDemo &console() const { return m_system->console(); }
-    QString target(const CommandButton &button) const { return button.Tag().section(u'/', 0, 0); }
-    void take(CommandButton &button);
-    void walkUntil(const QString &lastTag, CommandButton &button);
+    RunningSystem &system() { return m_walker->system(); }
+    frmDemo &console() { return m_walker->console(); }
+    void walkToTheLastStep() { m_walker->walkTo({}, console().cmdGoNext); }
+    void walkToTheEnd();
 
-    std::optional<RunningSystem> m_system;
-    QStringList m_path; // tags, in the order in which they were on show
-    QSet<int> m_tabs;
+    std::optional<Walker> m_walker;
 };
 
-void tst_Walk::init()
+void tst_Walk::walkToTheEnd()
 {
-    m_system.emplace();
-    const QByteArray script = tourScript();
-    QVERIFY(!script.isEmpty());
-    m_system->host.writeFile(u"DemoData.ini"_s, script);
-    m_system->start();
-    m_path = QStringList{console().Tag()};
-    m_tabs.clear();
-}
-
-void tst_Walk::cleanup()
-{
-    m_system.reset();
-}
-
-// One press, which has to bring up the step that the script names, and one that the user can tell from the last.
-void tst_Walk::take(CommandButton &button)
-{
-    const QString wanted = target(button);
-    const QString before = console().Header.Text();
-    const QString from = console().Tag();
-    QVERIFY2(wanted != none(), qPrintable(u"no way on from step "_s + from));
-    m_system->click(button);
-    QVERIFY2(console().Tag() == wanted || isEnd(wanted), qPrintable(from + u" led to "_s + console().Tag()));
-    QVERIFY2(console().Header.Text() != before, qPrintable(u"the same heading after "_s + from));
-    QVERIFY(console().Header.Text() != none() && !console().Header.Text().isEmpty());
-    QVERIFY(console().rtf.Text() != none() && !console().rtf.Text().isEmpty());
-    QVERIFY(m_system->active());
-    m_path << console().Tag();
-    for (int tab = 1; tab <= 5; ++tab)
-        if (m_system->active() == &m_system->diagram() && m_system->diagram().SSRibbon1(tab).Value()) m_tabs << tab;
-}
-
-void tst_Walk::walkUntil(const QString &lastTag, CommandButton &button)
-{
-    for (int i = 0; i < MostSteps && target(button) != lastTag && console().Tag() != lastTag; ++i) {
-        take(button);
-        if (QTest::currentTestFailed()) return;
-    }
+    walkToTheLastStep();
+    if (!QTest::currentTestFailed()) m_walker->take(console().cmdGoNext);
 }
 
 void tst_Walk::nextLeadsFromTheFirstStepToTheLast()
 {
+    m_walker->start();
     QCOMPARE(console().Tag(), u"101"_s);
-    walkUntil(u"603"_s, console().cmdGoNext);
-    take(console().cmdGoNext);
+    walkToTheEnd();
     QCOMPARE(console().Tag(), u"603"_s);
     QVERIFY(console().cmdQuit.Visible());
-    QVERIFY(m_path.contains(u"102"_s));
-    QCOMPARE(QSet<QString>(m_path.begin(), m_path.end()).size(), m_path.size()); // no step twice
-    QVERIFY(m_system->host.messages().empty());
-    QCOMPARE(countWindows(u"frmError"_s), 0);
+    const QStringList path = m_walker->path();
+    QVERIFY(path.contains(u"102"_s));
+    QCOMPARE(QSet<QString>(path.begin(), path.end()).size(), path.size()); // no step twice
+    QVERIFY(system().host.messages().empty());
+    system().host.expectEnd(0);
+    system().click(console().cmdQuit);
+}
+
+// But for the first, which only tells of the diagram that is there, the dialog and the help, which stand before the
+// frame, and the last stop.
+void tst_Walk::everyStepShowsSomethingInTheFrame()
+{
+    m_walker->start();
+    QImage before = m_walker->frame();
+    QStringList same;
+    while (!ShippedTour::isEnd(m_walker->target(console().cmdGoNext)) && !QTest::currentTestFailed()) {
+        m_walker->take(console().cmdGoNext);
+        const QImage now = m_walker->frame();
+        if (now == before) same << console().Tag();
+        before = now;
+    }
+    for (const QString &tag : same)
+        QVERIFY2((QStringList{u"102"_s, u"208"_s, u"605"_s, u"602"_s}.contains(tag)), qPrintable(tag));
+}
+
+void tst_Walk::everyModuleIsSeenOnTheWay()
+{
+    m_walker->start();
+    QSet<QString> windows;
+    QSet<int> tabs;
+    while (!ShippedTour::isEnd(m_walker->target(console().cmdGoNext)) && !QTest::currentTestFailed()) {
+        m_walker->take(console().cmdGoNext);
+        windows << system().active()->Name();
+        for (int tab = 1; tab <= 5; ++tab)
+            if (system().active() == &system().diagram() && system().diagram().SSRibbon1(tab).Value()) tabs << tab;
+    }
+    QCOMPARE(tabs, (QSet<int>{1, 2, 3, 4, 5}));
+    QCOMPARE(windows, (QSet<QString>{u"frmCommandCentre"_s, u"frmIGSteps"_s, u"frmEMMain"_s, u"frmMPMain"_s,
+                                     u"frmATMain"_s, u"frmRCMain"_s, u"frmPrint"_s}));
+    QVERIFY(HelpUser::window());
 }
 
 void tst_Walk::backLeadsFromTheLastStepToTheFirst()
 {
-    walkUntil(u"603"_s, console().cmdGoNext);
-    QCOMPARE(target(console().cmdGoNext), u"603"_s);
-    m_path = QStringList{console().Tag()};
-    walkUntil(u"101"_s, console().cmdGoBack);
-    take(console().cmdGoBack);
+    m_walker->start();
+    walkToTheLastStep();
+    m_walker->forgetPath();
+    m_walker->walkTo(u"101"_s, console().cmdGoBack);
     QCOMPARE(console().Tag(), u"101"_s);
-    QCOMPARE(console().cmdGoBack.Tag(), none());
-    QCOMPARE(QSet<QString>(m_path.begin(), m_path.end()).size(), m_path.size());
-    QVERIFY(m_system->host.messages().empty());
-    QCOMPARE(m_system->active(), &m_system->diagram());
+    QCOMPARE(console().cmdGoBack.Tag(), ShippedTour::none());
+    const QStringList path = m_walker->path();
+    QCOMPARE(QSet<QString>(path.begin(), path.end()).size(), path.size());
+    QVERIFY(system().host.messages().empty());
+    QCOMPARE(system().active(), &system().diagram());
+}
+
+void tst_Walk::backShowsWhatTheStepHadShown()
+{
+    m_walker->start();
+    QMap<QString, Sight> forward{{u"101"_s, m_walker->sight()}};
+    while (!ShippedTour::isEnd(m_walker->target(console().cmdGoNext)) && !QTest::currentTestFailed()) {
+        m_walker->take(console().cmdGoNext);
+        forward.insert(console().Tag(), m_walker->sight());
+    }
+    while (!m_walker->target(console().cmdGoBack).isEmpty() && !QTest::currentTestFailed()) {
+        m_walker->take(console().cmdGoBack);
+        const QString tag = console().Tag();
+        QVERIFY2(m_walker->sight() == forward.value(tag), qPrintable(tag + u": "_s + m_walker->sight().window));
+    }
+    QCOMPARE(console().Tag(), u"101"_s);
 }
 
 void tst_Walk::aClickInTheOpeningTextLeadsToTheLastStepToo()
 {
-    m_system->click(console().rtf);
+    m_walker->start();
+    system().click(console().rtf);
     QCOMPARE(console().Tag(), u"102"_s);
-    walkUntil(u"603"_s, console().cmdGoNext);
-    take(console().cmdGoNext);
+    walkToTheEnd();
     QCOMPARE(console().Tag(), u"603"_s);
 }
 
-void tst_Walk::everyTabIsSeenOnTheWay()
+void tst_Walk::anIntroThatWasLeftAloneLeadsIntoTheTour()
 {
-    walkUntil(u"603"_s, console().cmdGoNext);
-    QCOMPARE(m_tabs, (QSet<int>{1, 2, 3, 4, 5}));
+    system().showSplash();
+    system().host.advance(45000);
+    QTRY_VERIFY(console().Visible());
+    QCOMPARE(console().Tag(), u"0"_s);
+    system().click(console().cmdGoNext); // has nothing to do yet
+    QCOMPARE(console().Header.Text(), QString());
+    system().click(console().rtf);
+    QCOMPARE(console().Tag(), u"102"_s);
+    walkToTheEnd();
+    QCOMPARE(console().Tag(), u"603"_s);
 }
 
 void tst_Walk::theWalkEndsWithTheDealersLines()
 {
-    Shared().DealerTextPresent = True;
-    walkUntil(u"603"_s, console().cmdGoNext);
-    take(console().cmdGoNext);
+    system().host.writeFile(u"DealerData.dat"_s, ScrambleDealerData(u"Your dealer: 555-0199"_s));
+    m_walker->start();
+    walkToTheEnd();
     QCOMPARE(console().Tag(), u"604"_s);
     QVERIFY(console().txtInfo.Visible());
+    QVERIFY(console().txtInfo.Text().contains(u"555-0199"_s));
     QVERIFY(console().cmdQuit.Visible());
 }
 
-void tst_Walk::everyStepCanBeLeftByItsButtons_data()
+void tst_Walk::theHelpLeavesTheConsoleInView()
 {
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<bool>("forward");
-    QVERIFY(sections().size() > 20);
-    for (const QString &tag : sections()) {
-        if (isEnd(tag)) continue; // nothing leads out of these
-        QTest::addRow("%s Next", qPrintable(tag)) << tag << true;
-        QTest::addRow("%s Back", qPrintable(tag)) << tag << false;
-    }
+    m_walker->start();
+    m_walker->walkTo(u"605"_s, console().cmdGoNext);
+    QVERIFY(HelpUser::window());
+    QVERIFY(!HelpUser::window()->frameGeometry().intersects(console().shell().frameGeometry()));
 }
 
-void tst_Walk::everyStepCanBeLeftByItsButtons()
+void tst_Walk::aMutedPreviewDoesNotDisturbTheWalk_data()
+{
+    QTest::addColumn<QString>("tag");
+    for (const QString &tag : {u"127"_s, u"201"_s, u"311"_s, u"406"_s, u"511"_s})
+        QTest::addRow("%s", qPrintable(tag)) << tag;
+}
+
+void tst_Walk::aMutedPreviewDoesNotDisturbTheWalk()
 {
     QFETCH(QString, tag);
-    QFETCH(bool, forward);
-    CommandButton &button = forward ? console().cmdGoNext : console().cmdGoBack;
-    ShowTourStep(tag);
+    m_walker->start();
+    m_walker->walkTo(tag, console().cmdGoNext);
+    const MDIChild *document = system().active();
+    static_cast<QAbstractButton &>(console().cmdPrint.widget()).click(); // it is hidden, and stands ready
+    QCOMPARE(system().active()->Name(), u"frmPrint"_s);
     QCOMPARE(console().Tag(), tag);
-    QVERIFY(console().Header.Text() != none());
-    const QString script = button.Tag();
-    if (script == none()) {
-        m_system->click(button);
-        QCOMPARE(console().Tag(), tag);
-        return;
-    }
-    // A user who reads of a page or a link of the guide has that open.
-    const QString verb = script.section(u'/', 1, 1);
-    if (QStringList{u"mn"_s, u"ml"_s, u"rc"_s, u"cb"_s}.contains(verb))
-        OpenGuide(u"STEP 17 - Emergency Preparedness and Response"_s, u"127"_s);
-    take(button);
+    m_walker->take(console().cmdGoNext);
+    QCOMPARE(Shared().TourStepsMuted, False);
+    QCOMPARE(countWindows(u"frmPrint"_s), 0);
+    m_walker->take(console().cmdGoBack);
+    QCOMPARE(system().active(), document);
+    walkToTheEnd();
+    QCOMPARE(console().Tag(), u"603"_s);
 }
 
 QTEST_MAIN(tst_Walk)

@@ -143,8 +143,9 @@ void HelpWindow::takeFirstPlace()
 {
     const QWidget *active = QApplication::activeWindow();
     const QRect room = (active ? active->screen() : screen())->availableGeometry();
-    resize(FirstSize.boundedTo(room.size() * 9 / 10));
-    move(room.center() - rect().center());
+    // At the left, since it stands before the tour's console, which goes on at the right edge.
+    resize(FirstSize.boundedTo(QSize(room.width() * 2 / 3, room.height() * 9 / 10)));
+    move(room.left(), room.center().y() - rect().center().y());
 }
 
 // A modal window bars all windows but those that stand over it.

@@ -1,0 +1,96 @@
+// tourwalk: walks a tour script through the live program and leaves a page with a picture of each step, and the
+// documents of the modules as PDF files.
+#include "platform/controls/Palette.h"
+#include "platform/system/Guard.h"
+#include "platform/system/SettingsStore.h"
+
+#include "Documents.h"
+#include "Walk.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace orvane;
+
+namespace
+{
+enum ExitCode { Whole = 0, NotWhole = 1, WrongUse = 2 };
+
+struct Request {
+    QString script; // empty: the one beside the program
+    QString out;
+};
+
+[[noreturn]] void refuse(const QString &reason)
+{
+    std::fputs(qUtf8Printable(u"tourwalk: "_s + reason + u'\n'), stderr);
+    std::exit(WrongUse);
+}
+
+Request readRequest(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        u"Walks a tour script through the program: a picture of each step, a page of them all (index.html), and each "
+        "module's document as PDF.\n"
+        "Exit status: 0 the tour came to its end without a complaint, 1 it didn't, 2 wrong use."_s);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption out(u"out"_s, u"The folder that is written to (out)."_s, u"folder"_s, u"out"_s);
+    parser.addOption(out);
+    parser.addPositionalArgument(u"SCRIPT"_s, u"The script; without one, that beside the program."_s, u"[SCRIPT]"_s);
+    parser.process(arguments);
+    const QStringList scripts = parser.positionalArguments();
+    if (scripts.size() > 1) refuse(u"one script at a time; see --help"_s);
+    return {scripts.value(0), parser.value(out)};
+}
+
+// A program folder with another script in it.
+void furnish(const QString &folder, const QString &script)
+{
+    if (!QFile::copy(script, folder + u"/DemoData.ini"_s)) refuse(u"\"%1\" can't be read"_s.arg(script));
+    for (const QString &name : {u"DealerData.dat"_s, u"Orvane.hlp"_s})
+        QFile::link(QCoreApplication::applicationDirPath() + u'/' + name, folder + u'/' + name);
+}
+
+bool walkThrough(walk::WalkHost &host, walk::HandOut &handOut, const QDir &folder)
+{
+    walk::Walk walk(host, handOut);
+    bool ended = false;
+    guarded([&] {
+        ended = walk.run();
+        if (!host.hasEnded()) walk::printDocuments(folder, handOut);
+        if (ended) walk.quit();
+    });
+    const bool written = handOut.write();
+    std::printf("%d steps, %d pictures, %d documents and %d complaints; see %s\n", walk.steps(), handOut.pictures(),
+                handOut.documents(), handOut.complaints(), qUtf8Printable(folder.filePath(u"index.html"_s)));
+    return ended && written && handOut.complaints() == 0;
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"tourwalk"_s);
+    QApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
+    QApplication::setQuitOnLastWindowClosed(false);
+    applyLooks(application);
+    const Request request = readRequest(QApplication::arguments());
+    const QTemporaryDir settings; // the tour confirms the user's details, and must not change those of whoever runs it
+    const QTemporaryDir program;
+    setSettingsFolder(settings.path());
+    if (!request.script.isEmpty()) furnish(program.path(), request.script);
+    const QDir folder(request.out);
+    if (!folder.mkpath(u"."_s)) refuse(u"\"%1\" can't be made"_s.arg(request.out));
+    walk::WalkHost host(request.script.isEmpty() ? QString() : program.path(), folder.absolutePath());
+    walk::HandOut handOut(folder);
+    const bool whole = walkThrough(host, handOut, folder);
+    std::fflush(stdout);
+    std::_Exit(whole ? Whole : NotWhole); // as the program itself ends: no window's clean-up
+}
