@@ -1,0 +1,111 @@
+// What the rich-text control tells of the mouse: the button, the keys that are held, the place, and a click.
+#include "platform/FormFixture.h"
+#include "platform/controls/text/RichTextBox.h"
+
+#include <QMouseEvent>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace orvane;
+using namespace orvane::test;
+
+namespace
+{
+class BoxWindow : public NotedWindow
+{
+public:
+    BoxWindow() { box.Move(0, 0, 4500, 3000); }
+
+    RichTextBox box{*this, u"rtfData"_s};
+};
+
+struct Mouse {
+    int button = 0;
+    int shift = 0;
+    float x = 0;
+    float y = 0;
+    bool operator==(const Mouse &) const = default;
+};
+} // namespace
+
+class tst_RichTextMouse : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_window = std::make_unique<BoxWindow>(); }
+    void cleanup() { m_window.reset(); }
+    void mouseUpTellsButtonShiftAndPlace_data();
+    void mouseUpTellsButtonShiftAndPlace();
+    void mouseMoveTellsWhatIsHeld();
+    void clickComesBeforeMouseUpAndForTheLeftButtonOnly();
+
+private:
+    RichTextBox &box() const { return m_window->box; }
+    void show() { showActive(*m_window); }
+
+    std::unique_ptr<BoxWindow> m_window;
+};
+
+void tst_RichTextMouse::mouseUpTellsButtonShiftAndPlace_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("shift");
+    using M = Qt::KeyboardModifiers;
+    QTest::newRow("left") << Qt::LeftButton << M() << 1 << 0;
+    QTest::newRow("right") << Qt::RightButton << M() << 2 << 0;
+    QTest::newRow("middle") << Qt::MiddleButton << M() << 4 << 0;
+    QTest::newRow("Shift") << Qt::LeftButton << M(Qt::ShiftModifier) << 1 << 1;
+    QTest::newRow("Ctrl") << Qt::LeftButton << M(Qt::ControlModifier) << 1 << 2;
+    QTest::newRow("Alt") << Qt::LeftButton << M(Qt::AltModifier) << 1 << 4;
+    QTest::newRow("all") << Qt::RightButton << M(Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier) << 2 << 7;
+}
+
+void tst_RichTextMouse::mouseUpTellsButtonShiftAndPlace()
+{
+    QFETCH(Qt::MouseButton, button);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    QFETCH(int, number);
+    QFETCH(int, shift);
+    QList<Mouse> told;
+    connect(&box(), &RichTextBox::MouseUp, this, [&](int theButton, int theShift, float x, float y) {
+        told.push_back({theButton, theShift, x, y});
+    });
+    show();
+    QTest::mouseClick(&box().mouseTarget(), button, modifiers, QPoint(20, 30));
+    QCOMPARE(told.size(), 1);
+    QVERIFY((told.front() == Mouse{number, shift, 300.0F, 450.0F}));
+}
+
+void tst_RichTextMouse::mouseMoveTellsWhatIsHeld()
+{
+    QList<Mouse> told;
+    connect(&box(), &RichTextBox::MouseMove, this, [&](int button, int shift, float x, float y) {
+        told.push_back({button, shift, x, y});
+    });
+    show();
+    QMouseEvent free(QEvent::MouseMove, {10, 12}, {10, 12}, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&box().mouseTarget(), &free);
+    QCOMPARE(told.size(), 1);
+    QVERIFY((told.back() == Mouse{0, 0, 150.0F, 180.0F}));
+    QMouseEvent held(QEvent::MouseMove, {40, 50}, {40, 50}, Qt::NoButton, Qt::LeftButton | Qt::MiddleButton,
+                     Qt::ControlModifier);
+    QCoreApplication::sendEvent(&box().mouseTarget(), &held);
+    QVERIFY((told.back() == Mouse{5, 2, 600.0F, 750.0F}));
+}
+
+void tst_RichTextMouse::clickComesBeforeMouseUpAndForTheLeftButtonOnly()
+{
+    QStringList told;
+    connect(&box(), &RichTextBox::Click, this, [&] { told << u"Click"_s; });
+    connect(&box(), &RichTextBox::MouseUp, this, [&] { told << u"MouseUp"_s; });
+    show();
+    QTest::mouseClick(&box().mouseTarget(), Qt::LeftButton, {}, QPoint(20, 30));
+    QCOMPARE(told, (QStringList{u"Click"_s, u"MouseUp"_s}));
+    QTest::mouseClick(&box().mouseTarget(), Qt::RightButton, {}, QPoint(20, 30));
+    QCOMPARE(told.count(u"Click"_s), 1);
+}
+
+QTEST_MAIN(tst_RichTextMouse)
+#include "tst_RichTextMouse.moc"
