@@ -198,8 +198,11 @@ void tst_frmRCMainLayout::nothingOfTheRecordIsOutOfReach_data()
     QTest::addColumn<QString>("section");
     QTest::addColumn<QSize>("size");
     for (const char *section : {"511", "519"})
-        for (const QSize size : {QSize(1000, 700), QSize(785, 500), QSize(762, 600), QSize(760, 582), QSize(400, 700)})
-            QTest::addRow("%s, %d x %d", section, size.width(), size.height()) << QString::fromLatin1(section) << size;
+        for (const QSize size :
+             {QSize(1000, 700), QSize(785, 500), QSize(762, 600), QSize(760, 582), QSize(400, 700)}) {
+            const QString name = QString::fromLatin1(section);
+            QTest::newRow(qPrintable(u"%1, %2 x %3"_s.arg(name).arg(size.width()).arg(size.height()))) << name << size;
+        }
 }
 
 void tst_frmRCMainLayout::nothingOfTheRecordIsOutOfReach()
