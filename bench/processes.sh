@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Times whole programs, each against its measure in one run: the start up to the intro against a bare multi-document
-# window, and reading a long rich text against other readers of it. Installs what is missing.
+# window, reading a long rich text against other readers of it, and printing a module's document into a PDF file against
+# word processors that print the same rich text. Installs what is missing.
 set -euo pipefail
 CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/dependencies.sh
@@ -48,6 +49,30 @@ compare_reading() {
     done
 }
 
+pages_of() { pdfinfo "$1" | awk '/^Pages:/ { print $2 }'; }
+
+# How often each word stands in a plain text; the marks of bullets are none.
+words_of() { grep -oE '[[:alnum:]]+' "$1" | sort | uniq -c; }
+
+compare_printing() {
+    local module=$1 file=$work/module$1 names=(orvane abiword libreoffice) times i
+    "$programs/module_document" "$module" "$file.rtf"
+    mapfile -t times < <(times_of 5 \
+        "$programs/module_document $module $file.pdf" \
+        "abiword --to=pdf --to-name=$file-abiword.pdf $file.rtf" \
+        "soffice --headless --convert-to pdf --outdir $work/office $file.rtf")
+    for i in "${!names[@]}"; do
+        printf 'module %d as PDF by %-12s %8.2f s   ratio of ours %s\n' "$module" "${names[i]}" "${times[i]}" \
+            "$(ratio "${times[0]}" "${times[i]}")"
+    done
+    printf 'pages of module %d: ours %d, libreoffice %d\n' "$module" "$(pages_of "$file.pdf")" \
+        "$(pages_of "$work/office/module$module.pdf")"
+    "$programs/rtf2text" "$file.rtf" >"$file.txt"
+    soffice --headless --convert-to txt:Text --outdir "$work/office" "$file.rtf" >/dev/null 2>&1
+    printf 'words of module %d that differ in libreoffice: %d\n' "$module" \
+        "$(diff <(words_of "$file.txt") <(words_of "$work/office/module$module.txt") | grep -c '^[<>]' || true)"
+}
+
 main() {
     install_packages "${packages_build[@]}" "${packages_run[@]}" "${packages_virtual_display[@]}" "${packages_bench[@]}"
     build bench
@@ -56,6 +81,8 @@ main() {
     start_virtual_display
     compare_start
     compare_reading
+    local module
+    for module in 1 2 3 4; do compare_printing "$module"; done
 }
 
 main

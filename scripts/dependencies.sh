@@ -11,11 +11,11 @@
     packages_run=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite x11-utils)
     packages_wayland=(qt6-wayland)
     packages_virtual_display=(xvfb openbox)
-    packages_bench=(libbenchmark-dev hyperfine time unrtf pandoc abiword libreoffice-writer-nogui)
+    packages_bench=(libbenchmark-dev hyperfine time poppler-utils unrtf pandoc abiword libreoffice-writer-nogui)
     # A test prints on a scheduler of its own, and reads what comes out.
     packages_printing=(cups printer-driver-cups-pdf poppler-utils)
-    packages_check=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite "${packages_printing[@]}" clang-format-14 clang
-        libclang-rt-14-dev)
+    packages_check=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite "${packages_printing[@]}" mandoc
+        clang-format-14 clang libclang-rt-14-dev)
     packages_tidy=(clang-tidy)
 }
 
