@@ -7,10 +7,10 @@
 #include "command_center/DiagramTables.h"
 #include "platform/controls/ControlArray.h"
 #include "platform/controls/Frame.h"
-#include "platform/controls/Image.h"
 #include "platform/controls/SSCommand.h"
 #include "platform/controls/SSPanel.h"
 #include "platform/controls/SSRibbon.h"
+#include "platform/controls/pictures/Image.h"
 #include "platform/controls/zelGradient.h"
 #include "platform/forms/MDIChild.h"
 

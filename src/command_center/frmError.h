@@ -1,9 +1,9 @@
 // The notice that something has no live example here. It goes by itself.
 #pragma once
 
-#include "platform/controls/Image.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/TimerControl.h"
+#include "platform/controls/pictures/Image.h"
 #include "platform/forms/Window.h"
 
 namespace orvane

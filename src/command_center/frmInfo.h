@@ -2,9 +2,9 @@
 // console up.
 #pragma once
 
-#include "platform/controls/Image.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/TimerControl.h"
+#include "platform/controls/pictures/Image.h"
 #include "platform/forms/Window.h"
 
 namespace orvane

@@ -7,11 +7,11 @@
 // the Save tool do; each says so itself.
 #pragma once
 
-#include "platform/controls/Image.h"
 #include "platform/controls/Label.h"
-#include "platform/controls/PictureBox.h"
 #include "platform/controls/SSPanel.h"
 #include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/pictures/Image.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "platform/controls/text/TextBox.h"
 #include "platform/controls/text/zelRich.h"
 #include "platform/controls/zelGradient.h"

@@ -1,10 +1,10 @@
 // The Action Tools window: the one checklist T1.C11.
 #pragma once
 
-#include "platform/controls/Image.h"
-#include "platform/controls/PictureBox.h"
 #include "platform/controls/SSPanel.h"
 #include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/pictures/Image.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "platform/controls/text/RichTextBox.h"
 #include "platform/controls/zelGradient.h"
 #include "platform/forms/MDIChild.h"

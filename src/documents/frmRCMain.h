@@ -4,11 +4,11 @@
 // boxes that are never shown.
 #pragma once
 
-#include "platform/controls/Image.h"
-#include "platform/controls/PictureBox.h"
 #include "platform/controls/SSPanel.h"
 #include "platform/controls/SSScroll.h"
 #include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/pictures/Image.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "platform/forms/MDIChild.h"
 
 namespace orvane

@@ -1,7 +1,7 @@
 // How the documents of the modules come about.
 
 #include "documents/pages/PrintedPages.h"
-#include "platform/controls/PictureBox.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "platform/system/Application.h"
 #include "platform/system/Guard.h"
 #include "platform/system/SendKeys.h"

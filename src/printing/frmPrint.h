@@ -4,8 +4,8 @@
 // pages and print. The window stays loaded when it is closed by its tool, and shows the next job.
 #pragma once
 
-#include "platform/controls/PictureObject.h"
 #include "platform/controls/bars/ActiveBar.h"
+#include "platform/controls/pictures/PictureObject.h"
 #include "platform/controls/text/RichTextBox.h"
 #include "platform/forms/MDIChild.h"
 #include "platform/print/VSPrinter.h"

@@ -3,10 +3,10 @@
 
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/ControlArray.h"
-#include "platform/controls/Image.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/Line.h"
-#include "platform/controls/PictureBox.h"
+#include "platform/controls/pictures/Image.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "platform/forms/Window.h"
 
 namespace orvane

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "platform/controls/Frame.h"
-#include "platform/controls/Image.h"
 #include "platform/controls/Label.h"
-#include "platform/controls/PictureBox.h"
+#include "platform/controls/pictures/Image.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "platform/controls/zelGradient.h"
 #include "platform/forms/Window.h"
 

@@ -6,7 +6,7 @@
 
 #include "platform/controls/CommandButton.h"
 #include "platform/controls/Label.h"
-#include "platform/controls/PictureBox.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "platform/controls/text/RichTextBox.h"
 #include "platform/controls/text/TextBox.h"
 #include "platform/controls/zelFormLock.h"

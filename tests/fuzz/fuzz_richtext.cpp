@@ -1,5 +1,5 @@
 // The input as rich text: any bytes give a document, and what is written of it reads back to the same.
-#include "platform/DocumentDifference.h"
+#include "platform/richtext/DocumentDifference.h"
 #include "platform/richtext/Rtf.h"
 
 #include <QGuiApplication>

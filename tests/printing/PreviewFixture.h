@@ -1,7 +1,7 @@
 // The whole system with the print preview in it, and what a user does to the preview.
 #pragma once
 
-#include "platform/PrintFixture.h"
+#include "platform/print/PrintFixture.h"
 #include "platform/system/Application.h"
 #include "platform/system/SettingsStore.h"
 #include "printing/frmPrint.h"

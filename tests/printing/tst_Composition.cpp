@@ -1,5 +1,5 @@
 // How a job becomes the document in the preview.
-#include "platform/controls/PictureBox.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "printing/PreviewFixture.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,5 +1,5 @@
 // The tables at the head and foot of every page.
-#include "platform/controls/PictureBox.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "printing/PreviewFixture.h"
 
 using namespace Qt::Literals::StringLiterals;

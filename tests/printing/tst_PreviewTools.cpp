@@ -1,5 +1,5 @@
 // The preview's window and tools: zoom, pages, page setup, printing, closing.
-#include "platform/controls/PictureBox.h"
+#include "platform/controls/pictures/PictureBox.h"
 #include "platform/print/DefaultPrinter.h"
 #include "platform/print/preview/PreviewLayout.h"
 #include "printing/PreviewFixture.h"

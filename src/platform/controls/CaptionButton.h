@@ -2,7 +2,7 @@
 // drops a menu, which Down opens as well.
 #pragma once
 
-#include "platform/controls/Drawing.h"
+#include "platform/controls/pictures/Drawing.h"
 
 #include <QAbstractButton>
 

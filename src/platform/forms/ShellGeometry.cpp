@@ -1,7 +1,7 @@
 #include "platform/forms/ShellGeometry.h"
 
-#include "platform/controls/PictureView.h"
 #include "platform/controls/Twips.h"
+#include "platform/controls/pictures/PictureView.h"
 #include "platform/forms/Form.h"
 #include "platform/system/RunTimeError.h"
 
