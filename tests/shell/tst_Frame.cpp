@@ -62,6 +62,9 @@ private slots:
     void onlyQuitEndsTheProcess();
     void quitRunsNoOtherWindowsCleanUp();
 
+    void theProgramsSignIsSharpInTheDesktopsList();
+    void otherWindowsHandOverTheSignInTwoSizesOnly();
+
     void theUserCantCloseTheDiagram();
     void theDiagramGoesForAnyOtherReason_data();
     void theDiagramGoesForAnyOtherReason();
@@ -305,6 +308,18 @@ void tst_Frame::quitRunsNoOtherWindowsCleanUp()
     left.removeOne(u"frmDemo"_s);
     QCOMPARE(loadedNames(), left);
     QVERIFY(frame().Visible());
+}
+
+void tst_Frame::theProgramsSignIsSharpInTheDesktopsList()
+{
+    QCOMPARE(m_system->frame().shell().windowIcon().pixmap(256).width(), 256);
+}
+
+// A window manager is sent all of an icon's sizes while the start waits.
+void tst_Frame::otherWindowsHandOverTheSignInTwoSizesOnly()
+{
+    const QList<QSize> sizes = m_system->console().shell().windowIcon().availableSizes();
+    QCOMPARE(sizes, (QList<QSize>{{16, 16}, {32, 32}}));
 }
 
 void tst_Frame::theUserCantCloseTheDiagram()

@@ -1,8 +1,9 @@
 #include "platform/controls/Palette.h"
 
+#include "platform/controls/pictures/ProgramMark.h"
+
 #include <QApplication>
 #include <QFont>
-#include <QIcon>
 #include <QStyleFactory>
 #include <QToolTip>
 
@@ -65,7 +66,7 @@ void applyLooks(QApplication &application)
     QFont font(QStringLiteral("Arial"));
     font.setPointSizeF(TextPoints);
     QApplication::setFont(font);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/mark.svg")));
+    QApplication::setWindowIcon(smallProgramMark());
     application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QPalette looks = applicationPalette();
     QApplication::setPalette(looks);

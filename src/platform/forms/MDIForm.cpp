@@ -1,5 +1,6 @@
 #include "platform/forms/MDIForm.h"
 
+#include "platform/controls/pictures/ProgramMark.h"
 #include "platform/forms/MDIChild.h"
 #include "platform/system/Guard.h"
 
@@ -22,6 +23,7 @@ MDIForm::MDIForm(const QString &name, QMainWindow *window, QMdiArea *area)
     area->setFrameShape(QFrame::NoFrame);
     area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     area->setBackground(window->palette().brush(QPalette::Mid));
+    window->setWindowIcon(programMark());
     window->setCentralWidget(area);
     m_status->setObjectName(QStringLiteral("status"));
     window->statusBar()->setSizeGripEnabled(false);
