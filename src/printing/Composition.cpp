@@ -28,6 +28,7 @@ void frmPrint::PrintPreview(int module, const QString &section, int scope, int v
     m_job = {module, scope, section, version};
     Show();
     compose();
+    takeKeys();
 }
 
 void frmPrint::compose()
@@ -124,6 +125,13 @@ void frmPrint::PrintRecord(const PictureBox &front, const PictureBox *back)
     m_front = front.Picture();
     m_back = back ? std::optional(back->Picture()) : std::nullopt;
     printPictures();
+    takeKeys();
+}
+
+// A window that comes back may have the focus on a tool.
+void frmPrint::takeKeys()
+{
+    vs.SetFocus();
 }
 
 void frmPrint::printPictures()

@@ -23,7 +23,7 @@ constexpr int EnterKey = 13;
 void frmPrint::mnuPrintPreview_Click(Tool &pressed)
 {
     if (pressed.ToolTag() == CloseTag) reportClosing();
-    const QString name = pressed.Name();
+    const QString &name = pressed.Name();
     if (name == QStringLiteral("print")) {
         print();
     } else if (name == QStringLiteral("Next")) {
@@ -64,6 +64,12 @@ void frmPrint::enablePaging()
 void frmPrint::showZoom()
 {
     tool(QStringLiteral("miZoom")).setText(QStringLiteral("%1%").arg(static_cast<int>(vs.Zoom())));
+}
+
+void frmPrint::vs_PageTurned()
+{
+    tool(QStringLiteral("PageNumber")).setText(QString::number(vs.PreviewPage()));
+    enablePaging();
 }
 
 void frmPrint::print()

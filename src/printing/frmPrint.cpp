@@ -44,6 +44,9 @@ void frmPrint::wireEvents()
     wire(vs, &VSPrinter::FooterBand, *this, &frmPrint::vs_FooterBand);
     wire(vs, &VSPrinter::ViewZoomed, *this, &frmPrint::showZoom);
     wire(vs, &VSPrinter::ViewScrolled, *this, &frmPrint::showZoom);
+    wire(vs, &VSPrinter::PageTurned, *this, &frmPrint::vs_PageTurned);
+    wire(mnuPrintPreview, &ActiveBar::Hover, *this,
+         [](frmPrint &, const QString &description) { Default<mdiMain>().setStatusText(description); });
 }
 
 Tool &frmPrint::tool(const QString &name) const

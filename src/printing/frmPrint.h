@@ -34,11 +34,12 @@ public:
     void PrintLinks(int module, int section);                          // there is nothing to print of links
 
     void Form_Resize() override;
-    void mnuPrintPreview_Click(Tool &tool);
-    void mnuPrintPreview_ComboSelChange(Tool &tool);
+    void mnuPrintPreview_Click(Tool &pressed);
+    void mnuPrintPreview_ComboSelChange(Tool &picked);
     void mnuPrintPreview_KeyPress(Tool &tool, int keyAscii);
     void vs_HeaderBand();
     void vs_FooterBand();
+    void vs_PageTurned();
 
     // A document built up piece by piece in rtfPrint.
     static QString HeadingRtf(const QString &heading);
@@ -79,6 +80,7 @@ private:
     void composeProcedure();
     void composeTool();
     void printPictures();
+    void takeKeys(); // for the pages
     double usableWidth() const;
 
     Job m_job;

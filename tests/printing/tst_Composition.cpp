@@ -6,6 +6,49 @@ using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
 using namespace orvane::test;
 
+namespace
+{
+const QString Bullet = u"\u2022"_s; // as large as it has to be, and higher than its line
+
+// The headings, in order.
+const QStringList Guide{u"Step 17 Emergency Preparedness and Response"_s,
+                        u"The Requirement in brief......."_s,
+                        u"ISO 14001 Section 4.4.7"_s,
+                        u"Do I need a Procedure?......."_s,
+                        u"Implementation action......."_s,
+                        u"orvane advice......."_s,
+                        u"HOT TIPS!!......."_s,
+                        u"Related topics......."_s};
+const QStringList Manual{u"Commitment"_s, u"Procedures"_s, u"References"_s};
+const QStringList Procedure{u"Aim"_s, u"Responsibility"_s, u"Method"_s, u"Records"_s, u"References"_s};
+const QStringList ActionTool{u"Types of accident and emergency"_s,
+                             u"Responsibility of the Main Controller"_s,
+                             u"Responsibility of the Incident Controller"_s,
+                             u"Responsibility of the Incident Action Team"_s,
+                             u"Content of the site plan"_s,
+                             u"Items in the incident control center"_s,
+                             u"Items of emergency equipment"_s};
+
+// What stands between the head and the foot of the page, line by line; a line that is set in begins with ">".
+QStringList bodyLines(const PrintedPage &page)
+{
+    constexpr double Margin = 1440;
+    constexpr double LineHeight = 150; // twips: less than any line's
+    const double foot = page.placeOf(u"Page:"_s).top() - LineHeight;
+    std::map<int, QStringList> lines;
+    for (const PrintedWord &word : page.words) {
+        if (word.place.center().y() < Margin || word.place.top() > foot || word.text == Bullet) continue;
+        QStringList &line = lines[qRound(word.place.bottom() / LineHeight)];
+        if (line.isEmpty() && word.place.left() > Margin + LineHeight) line << u">"_s;
+        line << word.text;
+    }
+    QStringList texts;
+    for (const auto &[y, words] : lines)
+        texts << words.join(u' ');
+    return texts;
+}
+} // namespace
+
 class tst_Composition : public QObject
 {
     Q_OBJECT
@@ -19,6 +62,8 @@ private slots:
     void theCallersTextsAreInTheSecondRow();
     void everySectionIsPrintedOnceAndInOrder_data();
     void everySectionIsPrintedOnceAndInOrder();
+    void noPageEndsWithAHeading_data();
+    void noPageEndsWithAHeading();
     void nothingLiesOutsideTheMargins_data();
     void nothingLiesOutsideTheMargins();
     void withoutPrintersNothingIsComposed();
@@ -100,21 +145,10 @@ void tst_Composition::everySectionIsPrintedOnceAndInOrder_data()
 {
     QTest::addColumn<int>("module");
     QTest::addColumn<QStringList>("sections");
-    QTest::newRow("guide") << 1
-                           << QStringList{u"The Requirement in brief"_s, u"ISO 14001 Section 4.4.7"_s,
-                                          u"Do I need a Procedure?"_s, u"Implementation action"_s, u"HOT TIPS!!"_s};
-    QTest::newRow("manual") << 2 << QStringList{u"Commitment"_s, u"Procedures"_s, u"References"_s};
-    QTest::newRow("procedure") << 3
-                               << QStringList{u"Aim"_s, u"Responsibility"_s, u"Method"_s, u"Records"_s,
-                                              u"References"_s};
-    QTest::newRow("tool") << 4
-                          << QStringList{u"Types of accident and emergency"_s,
-                                         u"Responsibility of the Main Controller"_s,
-                                         u"Responsibility of the Incident Controller"_s,
-                                         u"Responsibility of the Incident Action Team"_s,
-                                         u"Content of the site plan"_s,
-                                         u"Items in the incident control center"_s,
-                                         u"Items of emergency equipment"_s};
+    QTest::newRow("guide") << 1 << Guide;
+    QTest::newRow("manual") << 2 << Manual;
+    QTest::newRow("procedure") << 3 << Procedure;
+    QTest::newRow("tool") << 4 << ActionTool;
 }
 
 void tst_Composition::everySectionIsPrintedOnceAndInOrder()
@@ -122,15 +156,37 @@ void tst_Composition::everySectionIsPrintedOnceAndInOrder()
     QFETCH(int, module);
     QFETCH(QStringList, sections);
     open().preview(module);
-    QString words;
+    QStringList found;
     for (const PrintedPage &page : open().printed())
-        words += wordsOf(page) + u' ';
-    qsizetype place = 0;
-    for (const QString &section : sections) {
-        const qsizetype found = words.indexOf(section, place);
-        QVERIFY2(found >= 0, qPrintable(section));
-        place = found + section.size();
+        for (const QString &line : bodyLines(page))
+            if (sections.contains(line)) found << line;
+    QCOMPARE(found, sections);
+}
+
+void tst_Composition::noPageEndsWithAHeading_data()
+{
+    QTest::addColumn<int>("module");
+    for (const int module : {GuideModule, ManualModule, ProcedureModule, ToolModule})
+        QTest::addRow("module %d", module) << module;
+}
+
+// On pages of many heights, so that each heading comes to stand near the end of one.
+void tst_Composition::noPageEndsWithAHeading()
+{
+    QFETCH(int, module);
+    const QStringList headings = Guide + Manual + Procedure + ActionTool;
+    int seen = 0;
+    for (int bottom = 1440; bottom < 12000; bottom += 2000) {
+        vs().setMarginBottom(bottom);
+        open().preview(module);
+        for (const PrintedPage &page : open().printed()) {
+            const QStringList lines = bodyLines(page);
+            QVERIFY2(!headings.contains(lines.constLast()), qPrintable(lines.constLast()));
+            for (const QString &line : lines)
+                seen += headings.contains(line) ? 1 : 0;
+        }
     }
+    QVERIFY(seen > 10);
 }
 
 void tst_Composition::nothingLiesOutsideTheMargins_data()
@@ -154,6 +210,10 @@ void tst_Composition::nothingLiesOutsideTheMargins()
             QVERIFY2(word.place.right() <= page.size.width() - Margin + Rounding, qPrintable(word.text));
             QVERIFY2(word.place.top() >= Margin - HeaderRoom - Rounding, qPrintable(word.text));
             QVERIFY2(word.place.bottom() <= page.size.height() - Margin + FooterRoom, qPrintable(word.text));
+            const bool aboveFoot = word.place.bottom() <= page.size.height() - Margin + Rounding;
+            QVERIFY2(aboveFoot || word.place.top() >= page.size.height() - Margin, qPrintable(word.text));
+            const bool belowHead = word.place.top() >= Margin - Rounding || word.text == Bullet;
+            QVERIFY2(belowHead || word.place.bottom() <= Margin + Rounding, qPrintable(word.text));
         }
 }
 

@@ -24,6 +24,9 @@ private slots:
     void init();
     void cleanup();
     void theHeadBeginsAboveTheMargin();
+    void theRulesStandWhereTheWidthsSay_data();
+    void theRulesStandWhereTheWidthsSay();
+    void aBlankRowPartsTheFootFromTheLegalLine();
     void theHeadsColumnsAreCentred();
     void theSecondRowOfTheHeadIsShaded();
     void thePageNumberFollowsThePageInTheWorks();
@@ -46,6 +49,7 @@ private:
     const PreviewedSystem &open() const { return *m_open; }
     VSPrinter &vs() const { return m_open->vs(); }
     QImage paper() const; // the first page, 144 pixels an inch
+    QImage strip(int y, int height) const;
 
     std::unique_ptr<PreviewedSystem> m_open;
 };
@@ -66,6 +70,57 @@ QImage tst_PageFurniture::paper() const
     const QString file = m_open->system.host.printedFile(u"LASER"_s);
     outputOf(u"pdftoppm"_s, {u"-r"_s, u"144"_s, u"-png"_s, u"-singlefile"_s, file, file});
     return QImage(file + u".png"_s);
+}
+
+// Of the first page, a pixel for each twip.
+QImage tst_PageFurniture::strip(int y, int height) const
+{
+    open().printed();
+    const auto number = [](int value) { return QString::number(value); };
+    const QString file = m_open->system.host.printedFile(u"LASER"_s);
+    outputOf(u"pdftoppm"_s, {u"-r"_s, u"1440"_s, u"-gray"_s, u"-singlefile"_s, u"-x"_s, u"0"_s, u"-y"_s, number(y),
+                             u"-W"_s, u"12240"_s, u"-H"_s, number(height), file, file});
+    return QImage(file + u".pgm"_s);
+}
+
+void tst_PageFurniture::theRulesStandWhereTheWidthsSay_data()
+{
+    QTest::addColumn<int>("top"); // of the table, twips
+    QTest::addColumn<QList<int>>("rules");
+    QTest::newRow("head") << 1440 - 800 << QList<int>{1440, 1440 + 2250, 10800 - 2};
+    QTest::newRow("foot") << 15840 - 1440 << QList<int>{1440, 1440 + 3500, 10800 - 2 - 1500, 10800 - 2};
+}
+
+// Seen between the table's upper edge and its text.
+void tst_PageFurniture::theRulesStandWhereTheWidthsSay()
+{
+    QFETCH(int, top);
+    QFETCH(QList<int>, rules);
+    constexpr int RuleWidth = 10;
+    open().preview(ManualModule);
+    const QImage shown = strip(top - 2 * RuleWidth, 4 * RuleWidth);
+    const auto isDark = [&](int x, int y) { return qGray(shown.pixel(x, y)) < 128; };
+    QList<double> found;
+    for (int x = 0; x < shown.width(); ++x) {
+        if (!isDark(x, shown.height() - 1)) continue;
+        const int from = x;
+        while (isDark(x, shown.height() - 1))
+            ++x;
+        found << (from + x) / 2.0;
+    }
+    QCOMPARE(found.size(), rules.size());
+    for (qsizetype rule = 0; rule < rules.size(); ++rule)
+        QVERIFY2(isNear(found[rule], rules[rule], 1.5), qPrintable(QString::number(found[rule])));
+    QVERIFY(isDark(2000, 2 * RuleWidth) && !isDark(2000, RuleWidth) && !isDark(2000, 3 * RuleWidth));
+}
+
+void tst_PageFurniture::aBlankRowPartsTheFootFromTheLegalLine()
+{
+    constexpr double RowOfEightPoints = 8 * 20 * 1.15;
+    open().preview(ManualModule);
+    const PrintedPage page = open().printed().front();
+    const double gap = page.placeOf(u"1999"_s).top() - page.placeOf(u"Page:"_s).bottom();
+    QVERIFY2(gap > RowOfEightPoints && gap < 2.5 * RowOfEightPoints, qPrintable(QString::number(gap)));
 }
 
 void tst_PageFurniture::theHeadBeginsAboveTheMargin()
@@ -190,7 +245,7 @@ void tst_PageFurniture::textsThatHoldASeparatorBreakTheirRow()
     QVERIFY2(words.startsWith(head), qPrintable(words.left(80)));
 }
 
-// 3240 between the margins: the middle column of the foot comes out negative.
+// 3240 between the margins: the middle column of the foot comes out negative, and a column without width isn't there.
 void tst_PageFurniture::aNarrowPageIsNoHarm()
 {
     vs().setMarginLeft(5000);
@@ -199,6 +254,7 @@ void tst_PageFurniture::aNarrowPageIsNoHarm()
     const auto pages = open().printed();
     QVERIFY(pages.size() > 1);
     QVERIFY(wordsOf(pages.front()).contains(u"Issue:"_s));
+    QVERIFY(!wordsOf(pages.front()).contains(u"Authorized by:"_s));
 }
 
 void tst_PageFurniture::aPageNarrowerThanItsMarginsIsNoHarm()

@@ -189,6 +189,7 @@ void tst_PreviewTools::enterTurnsToThePage_data()
     QTest::newRow("5") << 1 << u"1"_s;
     QTest::newRow("4.1") << 1 << u"1"_s;
     QTest::newRow("2.9") << 2 << u"2.9"_s;
+    QTest::newRow("0.9") << 1 << u"0.9"_s; // above 0, and cut to 0, which the document doesn't have
     QTest::newRow("page") << 1 << u"1"_s;
     QTest::newRow("2nd") << 2 << u"2nd"_s;
     QTest::newRow("") << 1 << u"1"_s;

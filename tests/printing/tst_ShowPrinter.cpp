@@ -43,6 +43,21 @@ struct Preview {
         ShowPrinter(window, vs, firstPage, lastPage, cancelled, flags);
     }
 
+    // Block 1 is the device mode, 2 the device names: handles are numbered in order.
+    QByteArray bytesGoingIn(quint32 block)
+    {
+        const quint32 before = GlobalAlloc(MovableZeroFilled, 1);
+        const quint32 handle = before + block;
+        QByteArray bytes;
+        show([&](PrintChoice &) {
+            bytes = QByteArray(static_cast<const char *>(GlobalLock(handle)), qsizetype(GlobalSize(handle)));
+            GlobalUnlock(handle);
+            return false;
+        });
+        GlobalFree(before);
+        return bytes;
+    }
+
     TestHost host;
     PreviewWindow window;
     VSPrinter vs{window, u"vs"_s};
@@ -71,6 +86,8 @@ class tst_ShowPrinter : public QObject
 private slots:
     void init();
     void theDefaultPrinterAndItsSettingsGoIn();
+    void theDeviceModeGoesInByteForByte();
+    void theDeviceNamesGoInByteForByte();
     void aPrinterWithoutDuplexGoesInAsItIs();
     void theDialogOpensOnAllPages();
     void theCallersFlagsGoIn();
@@ -116,6 +133,32 @@ void tst_ShowPrinter::theDefaultPrinterAndItsSettingsGoIn()
     QCOMPARE(preview.opened.duplex, 3);
     QCOMPARE(preview.opened.paperSize, 11);
     QCOMPARE(preview.opened.copies, 1);
+}
+
+void tst_ShowPrinter::theDeviceModeGoesInByteForByte()
+{
+    Preview preview;
+    Printer().setOrientation(2);
+    Printer().setDuplex(3);
+    Printer().setPaperSize(11);
+    Printer().setCopies(4);
+    QByteArray expected(122, '\0');
+    expected.replace(0, 32, QByteArray("LASER").leftJustified(32));
+    expected.replace(36, 2, QByteArray::fromHex("7A00"));     // dmSize
+    expected.replace(40, 4, QByteArray::fromHex("01100000")); // dmFields
+    expected.replace(44, 2, QByteArray::fromHex("0200"));     // dmOrientation
+    expected.replace(62, 2, QByteArray::fromHex("0300"));     // dmDuplex
+    QCOMPARE(preview.bytesGoingIn(1).toHex(), expected.toHex());
+}
+
+void tst_ShowPrinter::theDeviceNamesGoInByteForByte()
+{
+    Preview preview;
+    preview.host.setPrintQueues({{u"A queue of a name that is longer than most"_s, u"Fast"_s, {}, true, 9}});
+    const QByteArray device = "A queue of a name that is longer than most";
+    QByteArray expected = QByteArray::fromHex("08000D0038000000"); // 8, 8 + 1 + 4, and 1 + 42 for the port on top
+    expected += QByteArray("Fast") + '\0' + device.left(31) + '\0' + device + '\0';
+    QCOMPARE(preview.bytesGoingIn(2).toHex(), expected.leftJustified(108).toHex());
 }
 
 void tst_ShowPrinter::aPrinterWithoutDuplexGoesInAsItIs()

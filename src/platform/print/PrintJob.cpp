@@ -3,6 +3,7 @@
 #include "platform/print/PdfFile.h"
 #include "platform/print/PrintProgress.h"
 #include "platform/print/Printers.h"
+#include "platform/print/queues/PrintService.h"
 #include "platform/system/RunTimeError.h"
 
 #include <QFileInfo>
@@ -78,7 +79,7 @@ std::unique_ptr<PdfFile> fileOf(const QPrinter &printer, const PrintJob &job)
 }
 } // namespace
 
-void printPages(const RecordedPages &pages, const PrintJob &job)
+QString printPages(const RecordedPages &pages, const PrintJob &job)
 {
     const std::shared_ptr<QPrinter> printer = openPrinter(job.deviceName);
     setUp(*printer, job);
@@ -89,9 +90,13 @@ void printPages(const RecordedPages &pages, const PrintJob &job)
     else
         progress.withholdCancel(); // the toolkit hands a job to its queue even if it isn't complete
     const auto painter = std::make_shared<QPainter>();
-    if (!paint(*painter, *printer, pages, job, progress)) return;
+    const QString queue = file ? QString() : printer->printerName();
+    if (!paint(*painter, *printer, pages, job, progress)) return {};
     finishJob(printer, painter);
     if (file) file->keep();
+    if (queue.isEmpty() || !isQueuePaused(queue)) return {};
+    return QStringLiteral("The printer \"%1\" is paused. The document waits there until the printer is resumed.")
+        .arg(job.deviceName);
 }
 
 } // namespace orvane

@@ -41,6 +41,7 @@ VSPrinter::VSPrinter(Container &parent, const QString &name)
     setPurpose(QStringLiteral("Print preview"));
     connect(&m_view, &PreviewView::zoomed, this, &VSPrinter::ViewZoomed);
     connect(&m_view, &PreviewView::scrolled, this, &VSPrinter::ViewScrolled);
+    connect(&m_view, &PreviewView::turned, this, &VSPrinter::PageTurned);
 }
 
 QWidget &VSPrinter::voice() const
@@ -59,10 +60,12 @@ void VSPrinter::EndDoc()
 {
     if (!m_recording.isOpen()) return;
     m_recording.finish();
-    if (m_previewMode)
+    if (m_previewMode) {
         m_view.setPages(m_recording.pages(), setup().page());
-    else if (PageCount() > 0)
+        if (ZoomMode() != ZoomByPercent) emit ViewZoomed();
+    } else if (PageCount() > 0) {
         PrintDoc(1, PageCount());
+    }
 }
 
 void VSPrinter::NewPage()

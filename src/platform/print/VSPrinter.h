@@ -99,8 +99,8 @@ public:
     QString DocName() const { return m_docName; } // of the job at the printer, and of the PDF file
     void setDocName(const QString &name) { m_docName = name; }
 
-    // These pages, as far as there are such. Error 5 where there is none, 482 where the printer fails,
-    // which the control tells the user itself.
+    // These pages, as far as there are such. Error 5 where there is none, 482 where the printer fails, which the
+    // control tells the user itself. A job that a paused printer keeps is printed, and the user is told.
     void PrintDoc(int from, int to);
     // One of PrinterDialogs; true on OK. What the user chose holds from the next page that comes up.
     bool PrintDialog(int dialog);
@@ -108,9 +108,11 @@ public:
 signals:
     void HeaderBand();
     void FooterBand();
-    // The user has changed the view, by mouse or keys: its zoom, or what of the document it shows.
+    // The user has changed the view, by mouse or keys: its zoom, or what of the document it shows. ViewZoomed tells
+    // besides that a zoom mode has fitted a new document.
     void ViewZoomed();
     void ViewScrolled();
+    void PageTurned(); // by the user: another page is on show
 
 protected:
     QWidget &voice() const override;

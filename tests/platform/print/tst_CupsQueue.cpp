@@ -118,7 +118,7 @@ private slots:
     void landscapeIsPrinted();
     void bothSidesArePrinted_data();
     void bothSidesArePrinted();
-    void aPausedQueueTakesTheJob();
+    void aPausedQueueTakesTheJobAndTheUserIsTold();
     void aQueueThatRefusesJobsIsReported();
     void aQueueThatWasDeletedIsReported();
     void aQueueThatIsDeletedDuringTheJobIsReported();
@@ -239,11 +239,14 @@ void tst_CupsQueue::bothSidesArePrinted()
     QVERIFY2(job.options.contains(option), qPrintable(job.options.join(u' ')));
 }
 
-void tst_CupsQueue::aPausedQueueTakesTheJob()
+void tst_CupsQueue::aPausedQueueTakesTheJobAndTheUserIsTold()
 {
     Document document;
     m_scheduler->pause(u"Office"_s);
+    document.host.expectMessage(
+        u"The printer \"Office\" is paused. The document waits there until the printer is resumed."_s);
     document.on(u"Office"_s).PrintDoc(1, 1);
+    QCOMPARE(document.window.vs.PageCount(), Pages);
     QCOMPARE(m_scheduler->waitingJobs(u"Office"_s), 1);
     QCOMPARE(m_scheduler->keptJobs(), 0);
     m_scheduler->resume(u"Office"_s);

@@ -151,7 +151,7 @@ void tst_PageSetupDialog::okAndCancel()
     });
     watch.start(1);
     PageChoice choice = letter();
-    QCOMPARE(showPageSetupDialog(choice), taken);
+    QCOMPARE(Host().pageSetupDialog(choice), taken);
     QCOMPARE(choice.setup.landscape, taken);
 }
 

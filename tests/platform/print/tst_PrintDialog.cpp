@@ -2,7 +2,6 @@
 #include "platform/forms/Window.h"
 #include "platform/print/Printers.h"
 #include "platform/print/dialog/PrintChoice.h"
-#include "platform/print/dialog/SystemPrintDialog.h"
 #include "platform/print/dialog/WindowHandle.h"
 #include "platform/system/RunTimeError.h"
 #include "support/TestHost.h"
@@ -65,7 +64,7 @@ bool work(PrintChoice &choice, const std::function<void()> &user, quint32 owner 
         if (!QApplication::activeModalWidget()) qFatal("no print dialog is up");
         user();
     });
-    return showSystemPrintDialog(choice, owner);
+    return Host().printDialog(choice, owner);
 }
 
 void inProperties(const std::function<void()> &user)
@@ -347,7 +346,7 @@ void tst_PrintDialog::aPrinterThatIsGoneIsRefused()
     PrintChoice choice = choiceOfSevenPages();
     choice.deviceName = u"Gone"_s;
     try {
-        showSystemPrintDialog(choice, 0);
+        Host().printDialog(choice, 0);
         QFAIL("no failure");
     } catch (const RunTimeError &error) {
         QCOMPARE(error.Number(), int(PrinterFailure));

@@ -42,6 +42,7 @@ private slots:
     void ctrlAndTheWheelZoom();
     void ctrlAndPlusZoomByKeyboard();
     void aClickOnAThumbnailShowsItsPage();
+    void aClickOnTheOtherOfTwoPagesGoesThere();
     void arrowsChooseAThumbnailAndEnterShowsIt();
     void theProgramsOwnChangesRaiseNoEvent();
     void aPageIsWhiteAndItsTextBlack();
@@ -333,6 +334,17 @@ void tst_VSPrinterPreview::aClickOnAThumbnailShowsItsPage()
     QCOMPARE(vs().ZoomMode(), int(ZoomByPercent));
     QCOMPARE(vs().Zoom(), 80.0);
     QCOMPARE(zoomed.count(), 1);
+}
+
+void tst_VSPrinterPreview::aClickOnTheOtherOfTwoPagesGoesThere()
+{
+    show(4);
+    vs().setZoomMode(ZoomTwoPages);
+    const auto layout = layOutPreview({ZoomTwoPages, vs().Zoom(), 1, view().maximumViewportSize()},
+                                      std::vector<QSizeF>(4, LetterSize), LetterSize);
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, layout.pages[1].place.center().toPoint());
+    QCOMPARE(vs().PreviewPage(), 2);
+    QCOMPARE(vs().ZoomMode(), int(ZoomTwoPages));
 }
 
 void tst_VSPrinterPreview::arrowsChooseAThumbnailAndEnterShowsIt()

@@ -27,6 +27,7 @@ void PreviewView::turn(int pages, bool toItsEnd)
     setPage(before + pages);
     if (page() == before) return;
     if (toItsEnd) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    emit turned();
     emit scrolled();
 }
 
@@ -142,7 +143,7 @@ int PreviewView::thumbnailsInRow() const
 void PreviewView::openThumbnail(int page)
 {
     const int mode = m_single.mode;
-    setPage(page);
+    turn(page - this->page(), false);
     if (mode == ZoomByPercent)
         setZoom(m_single.zoom);
     else

@@ -33,6 +33,7 @@ signals:
     // What the user did, not what the program set.
     void zoomed();
     void scrolled();
+    void turned(); // to another page
 
 protected:
     void paintEvent(QPaintEvent *event) override;

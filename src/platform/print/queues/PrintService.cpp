@@ -15,11 +15,22 @@ constexpr int Blocking = 1;
 constexpr int Continue = 100; // more of the answer is to come
 constexpr int NoAnswer = -1;
 constexpr int LastGoodState = 7; // of the states that the service answers a request with
+constexpr char Stopped[] = "5";  // of the states of a queue
 constexpr double SecondsToWait = 3;
 constexpr int MillisecondsToWait = 3000;
 constexpr int MillisecondsOfSilence = 5000;
 
 struct Connection; // the service's own
+struct Option;
+
+// A queue and what it tells of itself, as the service's library hands it over.
+struct Destination {
+    char *name;
+    char *instance;
+    int isDefault;
+    int optionCount;
+    Option *options;
+};
 
 template <class Function>
 Function entry(const char *name)
@@ -33,6 +44,9 @@ using SetTimeout = void (*)(Connection *, double, int (*)(Connection *, void *),
 using Ask = int (*)(Connection *, const char *);
 using Read = int (*)(Connection *);
 using Close = void (*)(Connection *);
+using Find = Destination *(*)(Connection *, const char *, const char *);
+using Tell = const char *(*)(const char *, int, Option *);
+using Forget = void (*)(int, Destination *);
 using Text = const char *(*)();
 using Number = int (*)();
 
@@ -87,6 +101,20 @@ QString refusalOfLastJob()
     if (!state || !words || state() <= LastGoodState) return {};
     const QString reason = QString::fromUtf8(words());
     return reason.isEmpty() ? QStringLiteral("The print service doesn't answer.") : reason;
+}
+
+// The toolkit takes a queue that doesn't tell its state for a paused one.
+bool isQueuePaused(const QString &queueName)
+{
+    const auto find = entry<Find>("cupsGetNamedDest");
+    const auto tell = entry<Tell>("cupsGetOption");
+    const auto forget = entry<Forget>("cupsFreeDests");
+    if (!find || !tell || !forget || !printServiceAnswers()) return false;
+    Destination *queue = find(nullptr, queueName.section(u'/', 0, 0).toUtf8().constData(), nullptr);
+    if (!queue) return false;
+    const QByteArray state = tell("printer-state", queue->optionCount, queue->options);
+    forget(1, queue);
+    return state == Stopped;
 }
 
 } // namespace orvane

@@ -14,4 +14,7 @@ bool printServiceAnswers();
 // Why the service didn't take the job that this thread handed to it last, or nothing where it did.
 QString refusalOfLastJob();
 
+// Whether the queue takes jobs and prints none for now. False where the service doesn't answer or doesn't tell.
+bool isQueuePaused(const QString &queueName);
+
 } // namespace orvane
