@@ -1,5 +1,6 @@
 #include "command_center/frmCommandCentre.h"
 
+#include "platform/controls/bars/LastInput.h"
 #include "platform/forms/DefaultInstance.h"
 #include "platform/system/Guard.h"
 #include "platform/system/Number.h"
@@ -98,6 +99,8 @@ void frmCommandCentre::SSRibbon1_Click(int index, Boolean16 value)
     ShowTourStep(SSRibbon1(index).Tag());
     SSRibbon1(index).setFontBold(value == True);
     pnlDiag(index).setVisible(value == True);
+    // The keyboard goes on from the tab that it pressed.
+    if (!LastInput::wasKey() && Default<mdiMain>().ActiveForm() == this) cmdCommand(0).SetFocus();
 }
 
 void frmCommandCentre::cmdImp_Click(int index)

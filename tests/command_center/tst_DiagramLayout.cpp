@@ -57,6 +57,7 @@ private slots:
     void aSizeTooSmallForAPanelStopsNoOtherStep();
 
     void openingAWindowLaysNothingOut();
+    void bringingAWindowForwardLaysNothingOut();
     void afterAWindowWasClosedTheLayoutIsAsBefore_data();
     void afterAWindowWasClosedTheLayoutIsAsBefore();
 
@@ -298,6 +299,20 @@ void tst_DiagramLayout::openingAWindowLaysNothingOut()
     QVERIFY(Shared().DiagramLayoutHeld == False);
     ShowDiagram();
     QVERIFY(placesOf(diagram()) == before);
+}
+
+// The hold is there by the time that the window comes up, and is used up by that.
+void tst_DiagramLayout::bringingAWindowForwardLaysNothingOut()
+{
+    m_system->start();
+    m_system->click(diagram().cmdImp(1));
+    diagram().SetFocus();
+    diagram().gradient.Move(15, 30, 45, 60);
+    m_system->click(diagram().cmdImp(1));
+    QCOMPARE(m_system->active()->Name(), u"frmIGSteps"_s);
+    QCOMPARE(diagram().WindowState(), int(Normal));
+    QCOMPARE(placeOf(diagram().gradient), QRectF(15, 30, 45, 60));
+    QVERIFY(Shared().DiagramLayoutHeld == False);
 }
 
 void tst_DiagramLayout::afterAWindowWasClosedTheLayoutIsAsBefore_data()

@@ -90,9 +90,13 @@ private slots:
     void theTabThatRisesClicksFirst_data();
     void theTabThatRisesClicksFirst();
     void bothTabsReportTheirTags();
+    void aTabReportsBeforeItsPanelChanges();
     void pressingTheTabThatIsDownDoesNothing_data();
     void pressingTheTabThatIsDownDoesNothing();
+    void theMouseGivesATabNoFocus();
+    void theKeyboardStaysOnTheTabThatItPressed();
     void aValueSetByCodePressesTheTab();
+    void aTabPressedBehindAnotherWindowLeavesThatInFront();
     void aClickHandlerServesBothDirections();
 
     void theMouseColoursTheCaption_data();
@@ -342,6 +346,15 @@ void tst_frmCommandCentre::bothTabsReportTheirTags()
                                            u"500"_s, u"500"_s, u"102"_s}));
 }
 
+void tst_frmCommandCentre::aTabReportsBeforeItsPanelChanges()
+{
+    m_system->start();
+    const StepLog log(console(),
+                      [this] { return u", panel %1, bold %2"_s.arg(panelOnShow(diagram())).arg(boldTabs(diagram())); });
+    m_system->click(diagram().SSRibbon1(3));
+    QCOMPARE(log.steps(), (QStringList{u"102, panel 1, bold 1"_s, u"300, panel 0, bold "_s}));
+}
+
 void tst_frmCommandCentre::pressingTheTabThatIsDownDoesNothing_data()
 {
     theTabThatRisesClicksFirst_data();
@@ -361,6 +374,28 @@ void tst_frmCommandCentre::pressingTheTabThatIsDownDoesNothing()
     QCOMPARE(downTabs(diagram()), u"4"_s);
 }
 
+void tst_frmCommandCentre::theMouseGivesATabNoFocus()
+{
+    m_system->start();
+    QVERIFY(focusRests(diagram()));
+    pressTab(3, Qt::Key_unknown);
+    QCOMPARE(panelOnShow(diagram()), 3);
+    QVERIFY(focusRests(diagram()));
+    giveFocus(*m_system, buttonOf(diagram(), u"cmdPrc(1)"_s));
+    pressTab(4, Qt::Key_unknown);
+    QVERIFY(focusRests(diagram())); // also where it was on the panel that is gone
+}
+
+// So that Tab goes on from there to the buttons of the panel.
+void tst_frmCommandCentre::theKeyboardStaysOnTheTabThatItPressed()
+{
+    m_system->start();
+    pressTab(5, Qt::Key_Space);
+    QCOMPARE(diagram().ActiveControl(), &diagram().SSRibbon1(5));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(diagram().ActiveControl(), &diagram().cmdRec(0));
+}
+
 void tst_frmCommandCentre::aValueSetByCodePressesTheTab()
 {
     m_system->start();
@@ -368,6 +403,17 @@ void tst_frmCommandCentre::aValueSetByCodePressesTheTab()
     diagram().SSRibbon1(5).setValue(true);
     QCOMPARE(log.clicks, (QStringList{u"1 0, panel 0"_s, u"5 -1, panel 5"_s}));
     QCOMPARE(console().Tag(), u"500"_s);
+}
+
+void tst_frmCommandCentre::aTabPressedBehindAnotherWindowLeavesThatInFront()
+{
+    m_system->start();
+    m_system->click(diagram().cmdImp(1));
+    const MDIChild *guide = m_system->active();
+    diagram().SSRibbon1(3).setValue(true);
+    QCOMPARE(panelOnShow(diagram()), 3);
+    QVERIFY(guide != &diagram());
+    QCOMPARE(m_system->active(), guide);
 }
 
 void tst_frmCommandCentre::aClickHandlerServesBothDirections()

@@ -11,6 +11,7 @@ SSRibbon::SSRibbon(Container &parent, const QString &name, RibbonGroup &group, b
     group.m_members.push_back(this);
     button().setCheckable(true);
     button().setChecked(down);
+    button().setFocusPolicy(Qt::TabFocus); // the mouse leaves no frame on it
     // The toolkit has toggled the button by the time it tells; the group decides what that leads to.
     connect(&button(), &CaptionButton::clicked, this, [this](bool nowDown) {
         button().setChecked(!nowDown);
