@@ -45,6 +45,8 @@ void VersionedWindow::placeControls()
     mnuLinks.setAlign(AlignedAllOver);
     for (SSPanel *panel : {&pnlNumber, &pnlHeading})
         panel->setFont(QStringLiteral("Arial"), 9.75, true);
+    pnlNumber.setDataField(QStringLiteral("Section"));
+    pnlHeading.setDataField(QStringLiteral("Title"));
     rtfData.setFont(QStringLiteral("Times New Roman"), 9.75, false);
     rtfData.setGround(palette::White, PageMargin);
     imgLogo.setPicture(QStringLiteral("logo"));
@@ -71,6 +73,8 @@ void VersionedWindow::placeFields()
         label->setFont(QStringLiteral("MS Sans Serif"), 8.25, false);
         label->setOneLine();
     }
+    for (TextBox *box : {&txtIssue, &txtDate, &txtAuthorized})
+        box->setFont(QStringLiteral("Arial"), 9, false);
     txtIssue.setPurpose(QStringLiteral("Issue"));
     txtDate.setPurpose(QStringLiteral("Date"));
     txtAuthorized.setPurpose(QStringLiteral("Authorized by"));

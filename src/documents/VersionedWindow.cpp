@@ -93,7 +93,7 @@ QString VersionedWindow::checkedPage() const
 
 void VersionedWindow::handleLinkTool(Tool &tool)
 {
-    const QString caption = tool.Caption();
+    const QString &caption = tool.Caption();
     if (caption == captionInOwn() || caption == captionInMaster()) {
         switchVersion();
     } else if (caption == QStringLiteral("Save")) {

@@ -3,8 +3,22 @@
 // Master is for reading; in Own the text and the three fields can be edited. Nothing is kept of what is typed: a page
 // change, a switch of version or the end of the window drops it. The page on show is the checked tool of mnuNav.
 //
-// The two windows differ in their design (VersionedDesign), in the order of a few steps, and in what a page change and
-// the Save tool do; each says so itself.
+// On purpose the two windows differ in this, beside their design and their pages:
+//
+//                         frmEMMain                            frmMPMain
+//   a page tool in Own    Dirty stays; the fields go back to   Dirty is cleared; the fields keep
+//                         their constants                      what was typed
+//   ... in Master         the same for the fields              the fields stay
+//   Save                  does nothing                         repairs the date, then all is clean
+//   printing              reports the tool's number            reports 310 behind it
+//   the page's print tool 205                                  1, as in the other modules
+//   to Master             draws page and fields anew           draws the page alone anew
+//   the end               hides the window, then the bar       hides the bar, then the window
+//   Tag                   says "Environmental"                 bears the module's name
+//   QuitSaveData          none                                 as Save
+//   Tab in the fields     issue, date, authority               authority, date, issue
+//   mnuNav                has a second band, never shown       has one band
+//   pnlTools              none                                 lies behind the page
 #pragma once
 
 #include "platform/controls/Label.h"

@@ -4,6 +4,7 @@
 #include "documents/pages/ProcedurePages.h"
 #include "layouts/frmMPMain_mnuLinks.h"
 #include "layouts/frmMPMain_mnuNav.h"
+#include "platform/forms/Wiring.h"
 #include "shell/ModulePrefixes.h"
 #include "shell/SharedState.h"
 #include "shell/modFunctions.h"
@@ -43,6 +44,7 @@ frmMPMain::frmMPMain()
     pnlBottom.Move(0, 9360, 9300, 420);
     txtDate.setTabAfter(txtAuthorized);
     txtIssue.setTabAfter(txtDate);
+    answerName(*this, &frmMPMain::QuitSaveData, QStringLiteral("QuitSaveData"));
 }
 
 void frmMPMain::Form_Load()

@@ -109,6 +109,17 @@ public:
         return names;
     }
 
+    // Pixels inside.
+    void resizeInside(const QSize &size) const
+    {
+        window->setWindowState(Normal);
+        QTRY_COMPARE(window->WindowState(), int(Normal));
+        const QSize frame = window->shell().size() - window->surface().size();
+        window->shell().setMinimumSize(0, 0);
+        window->shell().resize(size + frame);
+        QTRY_COMPARE(window->surface().size(), size);
+    }
+
     RunningSystem system;
     Sister sister;
     SisterFacts facts;

@@ -1,9 +1,9 @@
-// The windows of the manual and the procedures: their pages, fields, links, closing, and where everything stands.
+// The windows of the manual and the procedures: their pages, fields, links, print jobs and closing.
 #include "documents/VersionedFixture.h"
 #include "documents/frmEMMain.h"
 #include "documents/frmMPMain.h"
 #include "platform/system/Dates.h"
-#include "printing/frmPrint.h"
+#include "printing/PreviewFixture.h"
 #include "shell/SharedState.h"
 
 #include <QMdiSubWindow>
@@ -23,14 +23,21 @@ private slots:
     void aPageToolShowsItsPage();
     void aPagingToolBringsTheNoticeAndNoPage_data() { addSisters(); }
     void aPagingToolBringsTheNoticeAndNoPage();
+    void theSelectionMovesTheEditTools_data() { addSisters(); }
+    void theSelectionMovesTheEditTools();
     void theDateIsShortInItsFieldAndLongOutside_data() { addSisters(); }
     void theDateIsShortInItsFieldAndLongOutside();
+    void aDateIsReadAsItIsTyped_data();
+    void aDateIsReadAsItIsTyped();
     void whatIsNoDateStaysAsItIs();
     void anEmptyDateIsRepaired();
     void tabGoesThroughTheFields_data() { addSisters(); }
     void tabGoesThroughTheFields();
     void printingHandsOverTheJob_data();
     void printingHandsOverTheJob();
+    void theWholeManualIsPrintedByNameAlone();
+    void thePagesBearTheVersionsCompanyAndTheDocument_data();
+    void thePagesBearTheVersionsCompanyAndTheDocument();
     void aLinkOpensItsModule_data();
     void aLinkOpensItsModule();
     void closeLeadsToTheDiagram_data() { addSisters(); }
@@ -39,15 +46,6 @@ private slots:
     void theCloseBoxUnloadsToo();
     void theBarGoesBeforeOrAfterTheWindow();
     void theBlankBandNeverShows();
-    void everyPartHasItsPlace_data();
-    void everyPartHasItsPlace();
-    void aFieldTooNarrowKeepsItsWidth();
-    void aMinimizedWindowIsNotLaidOut_data() { addSisters(); }
-    void aMinimizedWindowIsNotLaidOut();
-    void theFirstLayoutTakesTheSizeOfTheFrame_data() { addSisters(); }
-    void theFirstLayoutTakesTheSizeOfTheFrame();
-    void theLinesBreakShortOfTheEdge_data() { addSisters(); }
-    void theLinesBreakShortOfTheEdge();
 };
 
 void tst_VersionedWindows::aWindowBearsItsNames()
@@ -107,6 +105,22 @@ void tst_VersionedWindows::aPagingToolBringsTheNoticeAndNoPage()
     }
 }
 
+// In Master as in Own: a locked text can be copied, and Cut goes with Copy.
+void tst_VersionedWindows::theSelectionMovesTheEditTools()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    const ToolList &edit = open.system.frame().mnuMain.Bands(u"mnuEdit"_s).Tools();
+    for (int version = 0; version < 2; ++version) {
+        open.window->rtfData.SetFocus();
+        open.window->rtfData.setSelLength(5);
+        QVERIFY(edit.Item(u"miCopy"_s).Enabled() && edit.Item(u"miCut"_s).Enabled());
+        open.window->rtfData.setSelLength(0);
+        QVERIFY(!edit.Item(u"miCopy"_s).Enabled() && !edit.Item(u"miCut"_s).Enabled());
+        open.toOwn();
+    }
+}
+
 void tst_VersionedWindows::theDateIsShortInItsFieldAndLongOutside()
 {
     QFETCH(Sister, sister);
@@ -119,6 +133,26 @@ void tst_VersionedWindows::theDateIsShortInItsFieldAndLongOutside()
     QCOMPARE(open.window->txtDate.Text(), u"April 5, 2001"_s);
     open.window->txtDate.SetFocus();
     QCOMPARE(open.window->txtDate.Text(), u"2001/04/05"_s);
+}
+
+void tst_VersionedWindows::aDateIsReadAsItIsTyped_data()
+{
+    QTest::addColumn<QString>("typed");
+    for (const char *typed : {"31 March 1999", "3/31/99", "1999-03-31", "99/03/31", "99/3/31", "1999/03/31",
+                              "March 31, 1999", "Mar 31 1999"})
+        QTest::newRow(typed) << QString::fromLatin1(typed);
+}
+
+void tst_VersionedWindows::aDateIsReadAsItIsTyped()
+{
+    QFETCH(QString, typed);
+    const VersionedSystem open(Sister::Procedures);
+    open.toOwn();
+    open.type(open.window->txtDate, typed);
+    open.window->txtIssue.SetFocus();
+    QCOMPARE(open.window->txtDate.Text(), u"March 31, 1999"_s);
+    open.pressLink(u"Save"_s);
+    QCOMPARE(open.window->txtDate.Text(), u"March 31, 1999"_s);
 }
 
 void tst_VersionedWindows::whatIsNoDateStaysAsItIs()
@@ -187,6 +221,46 @@ void tst_VersionedWindows::printingHandsOverTheJob()
     QTEST(open.tags->tags(), "tags");
     QTEST(Default<frmPrint>().vs.DocName(), "document");
     QVERIFY(Default<frmPrint>().vs.PageCount() > 0);
+}
+
+void tst_VersionedWindows::theWholeManualIsPrintedByNameAlone()
+{
+    const VersionedSystem open(Sister::Manual);
+    QVERIFY(!chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {u"prtComplete"_s}));
+    Tool &whole = open.window->mnuLinks.Tools(u"prtComplete"_s);
+    open.window->names().call(u"mnuLinks_Click"_s, {.tool = &whole});
+    QCOMPARE(open.tags->tags(), QStringList(u"2"_s));
+    QCOMPARE(Default<frmPrint>().vs.DocName(), u"Environment Manual"_s);
+}
+
+void tst_VersionedWindows::thePagesBearTheVersionsCompanyAndTheDocument_data()
+{
+    QTest::addColumn<Sister>("sister");
+    QTest::addColumn<bool>("own");
+    QTest::addColumn<QString>("head");
+    const QString manual = u"%1 Environment Manual Section 4.4.7 Emergency Preparedness and Response "_s;
+    const QString procedures = u"%1 Management Procedures C11 Emergency Planning "_s;
+    QTest::newRow("manual") << Sister::Manual << false << manual.arg(u"Global Inc"_s);
+    QTest::newRow("manual, own") << Sister::Manual << true << manual.arg(u"Fairwater Works"_s);
+    QTest::newRow("procedures") << Sister::Procedures << false << procedures.arg(u"Global Inc"_s);
+    QTest::newRow("procedures, own") << Sister::Procedures << true << procedures.arg(u"Fairwater Works"_s);
+}
+
+void tst_VersionedWindows::thePagesBearTheVersionsCompanyAndTheDocument()
+{
+    QFETCH(Sister, sister);
+    QFETCH(bool, own);
+    QFETCH(QString, head);
+    VersionedSystem open(sister);
+    open.system.host.setPrintQueues({{u"LASER"_s, u"Fast"_s, {}, true, LetterPaper}});
+    SaveSetting(App().Title(), u"UserDetails"_s, u"Company"_s, u"Fairwater Works"_s);
+    if (own) open.toOwn();
+    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {u"prtPartial"_s}));
+    VSPrinter &vs = Default<frmPrint>().vs;
+    vs.setDevice(u"LASER"_s);
+    vs.PrintDoc(1, vs.PageCount());
+    const QString words = wordsOf(readPdf(open.system.host.printedFile(u"LASER"_s)).front());
+    QVERIFY2(words.startsWith(head), qPrintable(words.left(120)));
 }
 
 void tst_VersionedWindows::aLinkOpensItsModule_data()
@@ -281,111 +355,6 @@ void tst_VersionedWindows::theBlankBandNeverShows()
     QVERIFY(!open.window->mnuNav.Bands(1).Visible());
     open.pressPage(u"References"_s);
     QVERIFY(!open.window->mnuNav.Bands(1).Visible());
-}
-
-void tst_VersionedWindows::everyPartHasItsPlace_data()
-{
-    QTest::addColumn<Sister>("sister");
-    QTest::addColumn<QSize>("size"); // pixels inside
-    for (const auto &[name, sister] : {std::pair("manual", Sister::Manual), {"procedures", Sister::Procedures}})
-        for (const QSize size : {QSize(1000, 700), QSize(640, 330), QSize(420, 240), QSize(260, 150), QSize(180, 90)})
-            QTest::addRow("%s %d x %d", name, size.width(), size.height()) << sister << size;
-}
-
-void tst_VersionedWindows::everyPartHasItsPlace()
-{
-    QFETCH(Sister, sister);
-    QFETCH(QSize, size);
-    const VersionedSystem open(sister);
-    VersionedWindow &window = *open.window;
-    window.setWindowState(Normal);
-    const QSize frame = window.shell().size() - window.surface().size();
-    window.shell().setMinimumSize(1, 1);
-    window.shell().resize(size + frame);
-    QTRY_COMPARE(window.surface().size(), size);
-    const double w = toTwips(size.width());
-    const double h = toTwips(size.height());
-    QCOMPARE(window.ssMnu.Width(), w);
-    QCOMPARE(window.imgLogo.Left(), w - 1500);
-    if (w > 2955) QCOMPARE(window.pnlHeading.Width(), w - 1500 - 1455);
-    QCOMPARE(window.ssMnuLinks.Top(), h - 375);
-    QCOMPARE(window.ssMnuLinks.Width(), w);
-    QCOMPARE(window.pnlBottom.Width(), w);
-    QCOMPARE(window.pnlBottom.Top(), h - 375 - 420);
-    QCOMPARE(window.rtfData.Width(), w);
-    QCOMPARE(window.rtfData.RightMargin(), w - 430);
-    QCOMPARE(window.rtfData.Top(), 765.0);
-    if (h > 1560) QCOMPARE(window.rtfData.Height(), h - 795 - 765);
-    QCOMPARE(window.txtIssue.Left(), 595.0);
-    QCOMPARE(window.txtIssue.Width(), w / 5 - 465 - 10);
-    QCOMPARE(window.lblDate.Left(), 595 + w / 5 - 475 + 10);
-    QCOMPARE(window.txtDate.Left(), window.lblDate.Left() + 495 + 10);
-    QCOMPARE(window.txtDate.Width(), w / 5 - 20);
-    QCOMPARE(window.lblAuthorized.Left(), window.txtDate.Left() + w / 5 - 20 + 10);
-    QCOMPARE(window.txtAuthorized.Left(), window.lblAuthorized.Left() + 1005 + 10);
-    QCOMPARE(window.txtAuthorized.Width(), w / 5 + w / 5 - 1005 - 10);
-    QCOMPARE(window.gradient.Width(), w - 1500);
-}
-
-// Below 2375 twips the issue's width would be negative, below 2538 the authority's.
-void tst_VersionedWindows::aFieldTooNarrowKeepsItsWidth()
-{
-    const VersionedSystem open(Sister::Procedures);
-    VersionedWindow &window = *open.window;
-    window.setWindowState(Normal);
-    QTRY_COMPARE(window.WindowState(), int(Normal));
-    const double issue = window.txtIssue.Width();
-    const double authorized = window.txtAuthorized.Width();
-    const QSize frame = window.shell().size() - window.surface().size();
-    window.shell().setMinimumSize(1, 1);
-    window.shell().resize(QSize(150, 200) + frame);
-    QTRY_COMPARE(window.surface().width(), 150);
-    QCOMPARE(window.txtIssue.Width(), issue);
-    QCOMPARE(window.txtAuthorized.Width(), authorized);
-    QCOMPARE(window.txtDate.Width(), 2250.0 / 5 - 20);
-    QCOMPARE(window.lblDate.Left(), window.txtIssue.Left() + window.txtIssue.Width() + 10);
-}
-
-void tst_VersionedWindows::aMinimizedWindowIsNotLaidOut()
-{
-    QFETCH(Sister, sister);
-    const VersionedSystem open(sister);
-    VersionedWindow &window = *open.window;
-    const double left = window.imgLogo.Left();
-    window.imgLogo.setLeft(77);
-    window.setWindowState(Minimized);
-    QTRY_COMPARE(window.WindowState(), int(Minimized));
-    window.Form_Resize();
-    QCOMPARE(window.imgLogo.Left(), 77.0);
-    window.setWindowState(Maximized);
-    QTRY_COMPARE(window.imgLogo.Left(), left);
-}
-
-void tst_VersionedWindows::theFirstLayoutTakesTheSizeOfTheFrame()
-{
-    QFETCH(Sister, sister);
-    RunningSystem system;
-    system.start();
-    Shared().FrameScaleWidth = 9001;
-    Shared().FrameScaleHeight = 6002;
-    VersionedWindow *window = nullptr;
-    if (sister == Sister::Manual)
-        window = new frmEMMain;
-    else
-        window = new frmMPMain;
-    OpenWindowCore(*window, u"Title"_s, u"219"_s);
-    QCOMPARE(window->ssMnu.Width(), 9001.0);
-    QCOMPARE(window->ssMnuLinks.Top(), 6002.0 - 375);
-    window->Form_Resize();
-    QCOMPARE(window->ssMnu.Width(), window->ScaleWidth());
-}
-
-void tst_VersionedWindows::theLinesBreakShortOfTheEdge()
-{
-    QFETCH(Sister, sister);
-    const VersionedSystem open(sister);
-    QCOMPARE(open.window->rtfData.RightMargin(), open.window->ScaleWidth() - 430);
-    QCOMPARE(open.page().lineWrapColumnOrWidth(), toPixels(open.window->ScaleWidth() - 430));
 }
 
 QTEST_MAIN(tst_VersionedWindows)

@@ -1,11 +1,13 @@
-// Master and Own: the states of the two windows that have both, and the ways between them.
-#include "documents/VersionedFixture.h"
+// Master and Own: how a switch goes, what saving does, and that nothing changes a Master.
+#include "documents/VersionStates.h"
 #include "documents/frmMPMain.h"
 #include "platform/system/Dates.h"
-#include "printing/frmPrint.h"
+#include "platform/text/RichBoxFixture.h"
 #include "shell/SharedState.h"
+#include "shell/ShellProbes.h"
+#include "shell/frmProperties.h"
 
-#include <QMdiSubWindow>
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
@@ -13,34 +15,30 @@ using namespace orvane::test;
 
 namespace
 {
-struct State {
-    int ownMode;
-    short dirty;
-    bool locked;
-    bool editing;
-    bool fields;
-    QString caption;
-    bool save;
-    bool operator==(const State &) const = default;
-};
 
-State stateOf(const VersionedSystem &open)
+using Road = std::function<void(VersionedSystem &open)>;
+
+void pressKeys(const VersionedSystem &open, QKeyCombination keys)
 {
-    const VersionedWindow &window = *open.window;
-    return {window.OwnMode,
-            window.Dirty.value(),
-            window.rtfData.Locked(),
-            window.rtfData.EditingEnabled(),
-            open.fieldsEnabled() == QList<bool>{true, true, true},
-            open.mode().Caption(),
-            open.saveEnabled()};
+    QTest::keyClick(&open.page(), keys.key(), keys.keyboardModifiers());
 }
 
-const State MasterClean{0, 0, true, false, false, u" Go to Own "_s, false};
-const State OwnClean{-1, 0, false, true, true, u"Go to Master"_s, false};
-const State OwnDirty{-1, -1, false, true, true, u"Go to Master"_s, true};
-const State OwnDirtyUnsaveable{-1, -1, false, true, true, u"Go to Master"_s, false};
+void chooseEdit(const VersionedSystem &open, const QString &tool)
+{
+    open.system.clickTool(open.system.frame(), u"mnuMain"_s, u"mnuEdit"_s, tool);
+}
+
+// A tool of the bar that bears this caption and no number.
+void pressCaption(const VersionedSystem &open, const QString &caption)
+{
+    Tool &tool = open.window->mnuLinks.Bands(0).Tools().Add(99, u"loose"_s);
+    tool.setCaption(caption);
+    open.window->mnuLinks_Click(tool);
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(Road)
 
 class tst_Versions : public QObject
 {
@@ -51,35 +49,28 @@ private slots:
     void aWindowOpensAsMasterAndClean();
     void modeGoesToOwnOnThePageOnShow_data() { addSisters(); }
     void modeGoesToOwnOnThePageOnShow();
-    void modeGoesBackAndDropsTheEdits_data() { addSisters(); }
-    void modeGoesBackAndDropsTheEdits();
     void theModeToolNamesTheOther_data() { addSisters(); }
     void theModeToolNamesTheOther();
-    void whateverIsTypedMakesItDirty_data();
-    void whateverIsTypedMakesItDirty();
+    void theLastOfTheCheckedPagesIsReloaded_data() { addSisters(); }
+    void theLastOfTheCheckedPagesIsReloaded();
+    void aCheckedToolWithoutPageLeavesTheText_data() { addSisters(); }
+    void aCheckedToolWithoutPageLeavesTheText();
+    void aToolWithoutNumberActsByItsCaption_data();
+    void aToolWithoutNumberActsByItsCaption();
+    void aCloseToolThatReportsNothingUnloadsAlone_data() { addSisters(); }
+    void aCloseToolThatReportsNothingUnloadsAlone();
     void aKeyWithoutCharacterCountsInTheDateAlone();
-    void reloadingThePageIsNoEdit_data() { addSisters(); }
-    void reloadingThePageIsNoEdit();
-    void saveInTheProcedures();
-    void saveInTheManualDoesNothing();
-    void aPageChangeInTheProceduresKeepsTheFields();
-    void aPageChangeInTheManualResetsTheFields();
-    void aPagingToolCountsAsAPageChange_data() { addSisters(); }
-    void aPagingToolCountsAsAPageChange();
-    void aPageChangeInMasterRepairsNoDate_data() { addSisters(); }
-    void aPageChangeInMasterRepairsNoDate();
-    void printingCleansAndKeepsTheEditsOnShow_data() { addSisters(); }
-    void printingCleansAndKeepsTheEditsOnShow();
-    void aLinkChangesNothing_data() { addSisters(); }
-    void aLinkChangesNothing();
-    void aWindowOpenedAgainIsMaster_data() { addSisters(); }
-    void aWindowOpenedAgainIsMaster();
+    void whatWasSavedIsLostAtTheSwitch();
+    void aPageChangeInMasterResetsTheFieldsOfTheManual_data() { addSisters(); }
+    void aPageChangeInMasterResetsTheFieldsOfTheManual();
     void eachWindowHasItsOwnState();
     void theNextWindowAfterTheUserDetailsKeepsTheDesign_data() { addSisters(); }
     void theNextWindowAfterTheUserDetailsKeepsTheDesign();
     void quittingSavesInTheProcedures();
-    void nothingChangesTheTextInMaster_data() { addSisters(); }
+    void nothingChangesTheTextInMaster_data();
     void nothingChangesTheTextInMaster();
+    void nothingChangesTheFieldsInMaster_data() { addSisters(); }
+    void nothingChangesTheFieldsInMaster();
 };
 
 void tst_Versions::aWindowOpensAsMasterAndClean()
@@ -105,22 +96,6 @@ void tst_Versions::modeGoesToOwnOnThePageOnShow()
     QCOMPARE(open.fields(), masterFields());
 }
 
-void tst_Versions::modeGoesBackAndDropsTheEdits()
-{
-    QFETCH(Sister, sister);
-    const VersionedSystem open(sister);
-    const QString text = open.window->rtfData.Text();
-    open.toOwn();
-    open.typeInPage(u"typed"_s);
-    open.type(open.window->txtIssue, u"2"_s);
-    open.type(open.window->txtDate, u"soon"_s);
-    QVERIFY(stateOf(open) == OwnDirty);
-    open.toOwn();
-    QVERIFY(stateOf(open) == MasterClean);
-    QCOMPARE(open.window->rtfData.Text(), text);
-    QCOMPARE(open.fields(), masterFields());
-}
-
 void tst_Versions::theModeToolNamesTheOther()
 {
     QFETCH(Sister, sister);
@@ -133,26 +108,53 @@ void tst_Versions::theModeToolNamesTheOther()
     QCOMPARE(open.mode().Description(), u"Go to Own Version"_s);
 }
 
-void tst_Versions::whateverIsTypedMakesItDirty_data()
-{
-    QTest::addColumn<Sister>("sister");
-    QTest::addColumn<QString>("where");
-    for (const auto &[name, sister] : {std::pair("manual", Sister::Manual), {"procedures", Sister::Procedures}})
-        for (const char *where : {"txtIssue", "txtDate", "txtAuthorized", "rtfData"})
-            QTest::addRow("%s, %s", name, where) << sister << QString::fromLatin1(where);
-}
-
-void tst_Versions::whateverIsTypedMakesItDirty()
+void tst_Versions::theLastOfTheCheckedPagesIsReloaded()
 {
     QFETCH(Sister, sister);
-    QFETCH(QString, where);
+    const VersionedSystem open(sister);
+    open.window->mnuNav.Bands(0).Tools(1).setChecked(true);
+    open.toOwn();
+    QVERIFY(open.window->rtfData.Text().startsWith(open.facts.second));
+}
+
+void tst_Versions::aCheckedToolWithoutPageLeavesTheText()
+{
+    QFETCH(Sister, sister);
     const VersionedSystem open(sister);
     open.toOwn();
-    Control &control = *open.window->control(where);
-    control.SetFocus();
-    QVERIFY(stateOf(open) == OwnClean);
-    QTest::keyClicks(&control.widget(), u"x"_s);
-    QVERIFY(stateOf(open) == OwnDirty);
+    open.typeInPage(u"typed"_s);
+    open.window->mnuNav.Bands(0).Tools(u"Last"_s).setChecked(true);
+    open.toOwn();
+    QVERIFY(stateOf(open) == MasterClean);
+    QVERIFY(open.window->rtfData.Text().startsWith(u"typed"_s));
+    QCOMPARE(open.fields(), masterFields());
+}
+
+void tst_Versions::aToolWithoutNumberActsByItsCaption_data()
+{
+    QTest::addColumn<Sister>("sister");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<VersionState>("state");
+    for (const auto &[name, sister] : {std::pair("manual", Sister::Manual), {"procedures", Sister::Procedures}}) {
+        for (const char *caption : {"Go to Master", " Go to Own "})
+            QTest::addRow("%s, '%s'", name, caption) << sister << QString::fromLatin1(caption) << MasterClean;
+        for (const char *caption : {"Go to Own", "go to master", "save", "Print Options", ""})
+            QTest::addRow("%s, '%s'", name, caption) << sister << QString::fromLatin1(caption) << OwnDirty;
+        QTest::addRow("%s, 'Save'", name) << sister << u"Save"_s << (sister == Sister::Manual ? OwnDirty : OwnClean);
+    }
+}
+
+// Which way a switch goes is told by the version on show, not by the caption.
+void tst_Versions::aToolWithoutNumberActsByItsCaption()
+{
+    QFETCH(Sister, sister);
+    QFETCH(QString, caption);
+    QFETCH(VersionState, state);
+    const VersionedSystem open(sister);
+    open.toOwn();
+    open.typeInPage(u"typed"_s);
+    pressCaption(open, caption);
+    QVERIFY(stateOf(open) == state);
 }
 
 void tst_Versions::aKeyWithoutCharacterCountsInTheDateAlone()
@@ -167,18 +169,7 @@ void tst_Versions::aKeyWithoutCharacterCountsInTheDateAlone()
     QVERIFY(stateOf(open) == OwnDirty);
 }
 
-void tst_Versions::reloadingThePageIsNoEdit()
-{
-    QFETCH(Sister, sister);
-    const VersionedSystem open(sister);
-    open.pressPage(open.facts.pages[1]);
-    QVERIFY(stateOf(open) == MasterClean);
-    open.toOwn();
-    open.pressPage(open.facts.pages[0]);
-    QVERIFY(stateOf(open) == OwnClean);
-}
-
-void tst_Versions::saveInTheProcedures()
+void tst_Versions::whatWasSavedIsLostAtTheSwitch()
 {
     const VersionedSystem open(Sister::Procedures);
     open.toOwn();
@@ -186,104 +177,24 @@ void tst_Versions::saveInTheProcedures()
     open.type(open.window->txtDate, u"soon"_s);
     open.pressLink(u"Save"_s);
     QVERIFY(stateOf(open) == OwnClean);
-    QCOMPARE(open.window->txtIssue.Text(), u"2b"_s);
     QCOMPARE(open.window->txtDate.Text(), Date());
     open.window->txtDate.SetFocus();
     open.window->txtIssue.SetFocus();
-    QCOMPARE(open.window->txtDate.Text(), u"November 21, 2026"_s);
-}
-
-void tst_Versions::saveInTheManualDoesNothing()
-{
-    const VersionedSystem open(Sister::Manual);
+    QCOMPARE(open.fields(), (QStringList{u"2b"_s, u"November 21, 2026"_s, u"T Hallows"_s}));
     open.toOwn();
-    open.type(open.window->txtIssue, u"2b"_s);
-    open.pressLink(u"Save"_s);
-    QVERIFY(stateOf(open) == OwnDirty);
-    QCOMPARE(open.window->txtIssue.Text(), u"2b"_s);
-}
-
-void tst_Versions::aPageChangeInTheProceduresKeepsTheFields()
-{
-    const VersionedSystem open(Sister::Procedures);
-    open.toOwn();
-    open.typeInPage(u"typed"_s);
-    open.type(open.window->txtIssue, u"2b"_s);
-    open.type(open.window->txtDate, u"soon"_s);
-    open.type(open.window->txtAuthorized, u"M Serrano"_s);
-    open.pressPage(u"Method"_s);
-    QVERIFY(stateOf(open) == OwnClean);
-    QCOMPARE(open.fields(), (QStringList{u"2b"_s, u"November 21, 2026"_s, u"M Serrano"_s}));
-    QVERIFY(open.window->rtfData.Text().startsWith(u"Method\n"_s));
-}
-
-void tst_Versions::aPageChangeInTheManualResetsTheFields()
-{
-    const VersionedSystem open(Sister::Manual);
-    open.toOwn();
-    open.type(open.window->txtIssue, u"2b"_s);
-    open.pressPage(u"References"_s);
-    QVERIFY(stateOf(open) == OwnDirtyUnsaveable);
     QCOMPARE(open.fields(), masterFields());
 }
 
-void tst_Versions::aPagingToolCountsAsAPageChange()
+// In the procedures nothing is put right there, not even a date.
+void tst_Versions::aPageChangeInMasterResetsTheFieldsOfTheManual()
 {
     QFETCH(Sister, sister);
     VersionedSystem open(sister);
-    open.toOwn();
-    open.typeInPage(u"typed"_s);
+    open.window->txtIssue.setText(typedFields()[0]);
+    open.window->txtDate.setText(typedFields()[1]);
+    open.window->txtAuthorized.setText(typedFields()[2]);
     open.pressPaging(u"First"_s);
-    QCOMPARE(open.checkedPages(), QStringList(open.facts.pages.front()));
-    QVERIFY(open.window->rtfData.Text().startsWith(u"typed"_s));
-    QVERIFY(stateOf(open) == (sister == Sister::Manual ? OwnDirtyUnsaveable : OwnClean));
-}
-
-void tst_Versions::aPageChangeInMasterRepairsNoDate()
-{
-    QFETCH(Sister, sister);
-    VersionedSystem open(sister);
-    open.window->txtDate.setText(u"soon"_s);
-    open.pressPaging(u"Next"_s);
-    QCOMPARE(open.window->txtDate.Text(), sister == Sister::Manual ? u"March 31, 1999"_s : u"soon"_s);
-}
-
-void tst_Versions::printingCleansAndKeepsTheEditsOnShow()
-{
-    QFETCH(Sister, sister);
-    const VersionedSystem open(sister);
-    open.toOwn();
-    open.typeInPage(u"typed"_s);
-    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {u"prtPartial"_s}));
-    QCOMPARE(open.system.active()->Name(), u"frmPrint"_s);
-    QVERIFY(stateOf(open) == OwnClean);
-    QVERIFY(open.window->rtfData.Text().startsWith(u"typed"_s));
-}
-
-void tst_Versions::aLinkChangesNothing()
-{
-    QFETCH(Sister, sister);
-    const VersionedSystem open(sister);
-    open.toOwn();
-    open.typeInPage(u"typed"_s);
-    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"RelatedTopics"_s, {u"mnuIG"_s, u"IGlinks"_s}));
-    QCOMPARE(open.system.active()->Name(), u"frmIGSteps"_s);
-    QVERIFY(stateOf(open) == OwnDirty);
-}
-
-void tst_Versions::aWindowOpenedAgainIsMaster()
-{
-    QFETCH(Sister, sister);
-    VersionedSystem open(sister);
-    open.pressPage(open.facts.pages[1]);
-    open.toOwn();
-    open.typeInPage(u"typed"_s);
-    open.pressLink(u"Close"_s);
-    QCOMPARE(open.system.active(), &open.system.diagram());
-    QCOMPARE(countWindows(open.facts.shellName), 0);
-    open.open();
-    QVERIFY(stateOf(open) == MasterClean);
-    QCOMPARE(open.checkedPages(), QStringList(open.facts.pages.front()));
+    QCOMPARE(open.fields(), sister == Sister::Manual ? masterFields() : typedFields());
 }
 
 void tst_Versions::eachWindowHasItsOwnState()
@@ -302,7 +213,10 @@ void tst_Versions::theNextWindowAfterTheUserDetailsKeepsTheDesign()
     QFETCH(Sister, sister);
     VersionedSystem open(sister);
     open.pressLink(u"Close"_s);
-    Shared().UserDetailsSaved = True;
+    open.system.clickTool(open.system.frame(), u"mnuMain"_s, u"mnuTools"_s, u"properties"_s);
+    open.system.click(Default<frmProperties>().cmdOK);
+    OpenTools(u"Emergency Plan Ideas"_s, u"406"_s);
+    QVERIFY(Shared().UserDetailsSaved == True);
     open.open();
     QCOMPARE(open.mode().Caption(), u" Go to Own "_s);
     QCOMPARE(open.mode().Description(), u"Mode"_s);
@@ -322,16 +236,82 @@ void tst_Versions::quittingSavesInTheProcedures()
     QCOMPARE(open.window->txtDate.Text(), Date());
 }
 
-void tst_Versions::nothingChangesTheTextInMaster()
+// Without its number the tool is known by its caption, and the diagram isn't called forward.
+void tst_Versions::aCloseToolThatReportsNothingUnloadsAlone()
 {
     QFETCH(Sister, sister);
     const VersionedSystem open(sister);
-    const QString text = open.window->rtfData.Text();
-    open.typeInPage(u"typed"_s);
-    QTest::keyClick(&open.page(), Qt::Key_Delete);
-    QTest::keyClick(&open.page(), Qt::Key_V, Qt::ControlModifier);
+    OpenGuide(u"Scope"_s, u"101"_s);
+    const MDIChild *guide = open.system.active();
+    open.window->SetFocus();
+    open.link(u"Close"_s).setToolTag(0);
+    open.pressLink(u"Close"_s);
+    QCOMPARE(countWindows(open.facts.shellName), 0);
+    QCOMPARE(open.system.active(), guide);
+    for (const auto &entry : open.system.frame().mnuMain.Bands(u"mnuWindow"_s).Tools())
+        QVERIFY(!entry->Name().endsWith(open.facts.title));
+}
+
+void tst_Versions::nothingChangesTheTextInMaster_data()
+{
+    QTest::addColumn<Sister>("sister");
+    QTest::addColumn<Road>("road");
+    const auto row = [](const char *name, const Road &road) {
+        QTest::addRow("manual, %s", name) << Sister::Manual << road;
+        QTest::addRow("procedures, %s", name) << Sister::Procedures << road;
+    };
+    for (const QKeyCombination keys :
+         {QKeyCombination(Qt::Key_X), QKeyCombination(Qt::Key_Return), QKeyCombination(Qt::Key_Delete),
+          QKeyCombination(Qt::Key_Backspace), Qt::CTRL | Qt::Key_V, Qt::CTRL | Qt::Key_X, Qt::CTRL | Qt::Key_Z,
+          Qt::CTRL | Qt::Key_Y, Qt::SHIFT | Qt::Key_Insert, Qt::SHIFT | Qt::Key_Delete})
+        row(qPrintable(QKeySequence(keys).toString()), [keys](VersionedSystem &open) { pressKeys(open, keys); });
+    for (const char *tool : {"miUndo", "miCut", "miPaste"})
+        row(tool, [tool](VersionedSystem &open) { chooseEdit(open, QString::fromLatin1(tool)); });
+    row("clear", [](VersionedSystem &open) {
+        LooseTool clear(u"clear"_s);
+        open.system.frame().mnuMain_Click(clear.tool);
+    });
+    row("drop", [](VersionedSystem &open) { drop(open.page(), u"dropped"_s); });
+    row("input method", [](VersionedSystem &open) { compose(open.page(), u"composed"_s); });
+    row("middle click",
+        [](VersionedSystem &open) { QTest::mouseClick(open.page().viewport(), Qt::MiddleButton, {}, QPoint(9, 9)); });
+}
+
+// Nor does it bring back what was typed in Own.
+void tst_Versions::nothingChangesTheTextInMaster()
+{
+    QFETCH(Sister, sister);
+    QFETCH(Road, road);
+    VersionedSystem open(sister);
+    const QString text = open.window->rtfData.TextRTF();
+    open.toOwn();
+    open.typeInPage(u"ab"_s);
     QTest::keyClick(&open.page(), Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(open.window->rtfData.Text(), text);
+    open.toOwn();
+    fillClipboard({{u"text/plain"_s, "pasted"}, {u"text/rtf"_s, "{\\rtf1 pasted}"}});
+    open.window->rtfData.SetFocus();
+    open.window->rtfData.setSelStart(0);
+    open.window->rtfData.setSelLength(5);
+    road(open);
+    QCOMPARE(open.window->rtfData.TextRTF(), text);
+    QVERIFY(stateOf(open) == MasterClean);
+}
+
+void tst_Versions::nothingChangesTheFieldsInMaster()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    QMimeData dragged;
+    dragged.setText(u"dropped"_s);
+    for (const TextBox *box : {&open.window->txtIssue, &open.window->txtDate, &open.window->txtAuthorized}) {
+        QTest::mouseClick(&box->widget(), Qt::LeftButton);
+        QVERIFY(!box->widget().hasFocus());
+        QTest::keyClicks(QApplication::focusWidget(), u"x"_s);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&box->widget(), &enter);
+        QVERIFY(!enter.isAccepted());
+    }
+    QCOMPARE(open.fields(), masterFields());
     QVERIFY(stateOf(open) == MasterClean);
 }
 

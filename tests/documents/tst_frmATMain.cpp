@@ -2,14 +2,16 @@
 #include "documents/frmATMain.h"
 #include "documents/pages/ToolPages.h"
 #include "platform/forms/Wiring.h"
-#include "printing/frmPrint.h"
+#include "printing/PreviewFixture.h"
 #include "shell/SharedState.h"
 #include "shell/modFunctions.h"
 #include "support/ReportedTags.h"
 #include "support/RunningSystem.h"
 #include "support/UserOnBars.h"
 
+#include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPointer>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -60,7 +62,9 @@ private slots:
     void theFirstLayoutTakesTheSizeOfTheFrame();
     void aLinkReportsItsThreeDigitsAndOpensItsModule_data();
     void aLinkReportsItsThreeDigitsAndOpensItsModule();
+    void aWindowThatItsLinkClosesEndsQuietly();
     void printingReports402AndReplacesThePreview();
+    void thePagesBearTheDocument();
     void theWholeModuleCannotBePrinted();
     void aToolWithoutNumberIsReportedAndDoesNothing();
     void closeReportsAndLeadsToTheDiagram();
@@ -97,25 +101,29 @@ void tst_frmATMain::thePageCannotBeChanged()
 void tst_frmATMain::everyPartHasItsPlace_data()
 {
     QTest::addColumn<QSize>("size"); // pixels inside
-    for (const QSize size : {QSize(1000, 700), QSize(640, 480), QSize(420, 334), QSize(300, 500), QSize(1200, 333)})
+    for (const QSize size : {QSize(1000, 700), QSize(640, 480), QSize(420, 334), QSize(300, 500), QSize(1200, 333),
+                             QSize(196, 333), QSize(99, 400), QSize(36, 350), QSize(14, 333)})
         QTest::addRow("%d x %d", size.width(), size.height()) << size;
 }
 
+// In the last four the heading, then the strip, the margin and the page would be narrower than nothing.
 void tst_frmATMain::everyPartHasItsPlace()
 {
     QFETCH(QSize, size);
     const ToolWindow open;
-    open.resizeInside(size);
+    open.resizeInside({800, 500});
+    const auto orBefore = [](double width, double before) { return width < 0 ? before : width; };
     const frmATMain &window = *open.window;
+    open.resizeInside(size);
     const double w = toTwips(size.width());
     const double h = toTwips(size.height());
     QCOMPARE(window.ssMnu.Width(), w);
-    QCOMPARE(window.rtfData.Width(), w - 220);
-    QCOMPARE(window.rtfData.RightMargin(), w - 550);
+    QCOMPARE(window.rtfData.Width(), orBefore(w - 220, 12000 - 220));
+    QCOMPARE(window.rtfData.RightMargin(), orBefore(w - 550, 12000 - 550));
     QCOMPARE(window.imgLogo.Left(), w - 1500);
-    QCOMPARE(window.pnlHeading.Width(), w - 1500 - 1455);
+    QCOMPARE(window.pnlHeading.Width(), orBefore(w - 1500 - 1455, 12000 - 1500 - 1455));
     QCOMPARE(window.rtfData.Height(), h - 780 - 375);
-    QCOMPARE(window.gradient.Width(), w - 1500);
+    QCOMPARE(window.gradient.Width(), orBefore(w - 1500, 12000 - 1500));
     QCOMPARE(window.ssMnuLinks.Top(), h - 375);
 }
 
@@ -194,6 +202,20 @@ void tst_frmATMain::aLinkReportsItsThreeDigitsAndOpensItsModule()
     }
 }
 
+// The number has no tool any more to be put back into.
+void tst_frmATMain::aWindowThatItsLinkClosesEndsQuietly()
+{
+    const ToolWindow open;
+    connect(&open.system.frame().area(), &QMdiArea::subWindowActivated, this,
+            [window = QPointer<frmATMain>(open.window)](const QMdiSubWindow *active) {
+                if (window && !window->Unloaded() && active && active->objectName() == u"frmEMMain") window->Unload();
+            });
+    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"RelatedTopics"_s, {u"mnuEM"_s, u"btnEM"_s}));
+    QCOMPARE(countWindows(u"frmATMain"_s), 0);
+    QCOMPARE(open.tags->tags(), QStringList(u"219"_s));
+    QCOMPARE(open.system.active()->Name(), u"frmEMMain"_s);
+}
+
 void tst_frmATMain::printingReports402AndReplacesThePreview()
 {
     const ToolWindow open;
@@ -204,6 +226,19 @@ void tst_frmATMain::printingReports402AndReplacesThePreview()
     QCOMPARE(countWindows(u"frmPrint"_s), 1);
     QCOMPARE(Default<frmPrint>().vs.DocName(), u"Action Tools"_s);
     QCOMPARE(open.system.active()->Name(), u"frmPrint"_s);
+}
+
+void tst_frmATMain::thePagesBearTheDocument()
+{
+    ToolWindow open;
+    open.system.host.setPrintQueues({{u"LASER"_s, u"Fast"_s, {}, true, LetterPaper}});
+    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {u"prtPartial"_s}));
+    VSPrinter &vs = Default<frmPrint>().vs;
+    vs.setDevice(u"LASER"_s);
+    vs.PrintDoc(1, vs.PageCount());
+    const QString words = wordsOf(readPdf(open.system.host.printedFile(u"LASER"_s)).front());
+    QVERIFY2(words.startsWith(u"orvane Action Tools T1.C11 Key Points to Include in Emergency Plans "_s),
+             qPrintable(words.left(120)));
 }
 
 void tst_frmATMain::theWholeModuleCannotBePrinted()

@@ -12,6 +12,27 @@ namespace
 
 const QString Prompt = u"Click on the Bold Text above to get detailed advice"_s;
 
+// The order in which the parts of the pane come and go.
+class PaneLog : public QObject
+{
+public:
+    explicit PaneLog(const frmIGSteps &guide)
+    {
+        for (const Control *part :
+             {static_cast<const Control *>(&guide.rtfTips), static_cast<const Control *>(&guide.cmdTipsClose),
+              static_cast<const Control *>(&guide.ssPanel)})
+            part->widget().installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *part, QEvent *event) override
+    {
+        if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) parts << part->objectName();
+        return false;
+    }
+
+    QStringList parts;
+};
+
 } // namespace
 
 class tst_GuideAdvice : public QObject
@@ -40,6 +61,7 @@ private slots:
     void theCloseButtonHidesThePane_data();
     void theCloseButtonHidesThePane();
     void aClickBringsAClosedPaneBack();
+    void thePaneComesAndGoesInItsOrder();
 };
 
 void tst_GuideAdvice::cleanup()
@@ -254,6 +276,17 @@ void tst_GuideAdvice::aClickBringsAClosedPaneBack()
     QVERIFY(open.paneShown());
     QCOMPARE(open.shown(), 5);
     QCOMPARE(open.guide->rtfData.Height(), withPane);
+}
+
+void tst_GuideAdvice::thePaneComesAndGoesInItsOrder()
+{
+    const GuideWindow open;
+    PaneLog log(*open.guide);
+    open.press(u"Implementation"_s);
+    QCOMPARE(log.parts, (QStringList{u"rtfTips"_s, u"ssPanel"_s, u"cmdTipsClose"_s}));
+    log.parts.clear();
+    open.press(u"Requirement"_s);
+    QCOMPARE(log.parts, (QStringList{u"rtfTips"_s, u"cmdTipsClose"_s, u"ssPanel"_s}));
 }
 
 QTEST_MAIN(tst_GuideAdvice)

@@ -2,6 +2,7 @@
 #include "documents/guide/GuideWindow.h"
 
 #include "platform/forms/Wiring.h"
+#include "printing/frmPrint.h"
 #include "shell/SharedState.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -36,6 +37,8 @@ private slots:
     void theGuidesOwnLinkStillWorksByName();
     void aToolOfZeroIsHeardAndDoesNothing_data();
     void aToolOfZeroIsHeardAndDoesNothing();
+    void aToolOfZeroThatIsCalledPrintingShowsThePreview_data();
+    void aToolOfZeroThatIsCalledPrintingShowsThePreview();
 
     void aPrintToolReportsItsTagAndThenThePrinting_data();
     void aPrintToolReportsItsTagAndThenThePrinting();
@@ -154,6 +157,24 @@ void tst_GuideLinks::aToolOfZeroIsHeardAndDoesNothing()
     QVERIFY(heardNothingButZero(open, [&] { open.guide->names().call(u"mnuLinks_Click"_s, {.tool = &pressed}); }));
     QCOMPARE(Forms(), windows);
     QCOMPARE(open.system.active(), open.guide);
+}
+
+void tst_GuideLinks::aToolOfZeroThatIsCalledPrintingShowsThePreview_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("the page") << u"Print Current Page"_s;
+    QTest::newRow("the section") << u"Print Section"_s;
+}
+
+void tst_GuideLinks::aToolOfZeroThatIsCalledPrintingShowsThePreview()
+{
+    QFETCH(QString, caption);
+    const GuideWindow open;
+    Tool &pressed = open.guide->mnuLinks.Tools(u"Print"_s);
+    pressed.setCaption(caption);
+    QVERIFY(heardNothingButZero(open, [&] { open.guide->names().call(u"mnuLinks_Click"_s, {.tool = &pressed}); }));
+    QCOMPARE(open.system.active()->Name(), u"frmPrint"_s);
+    QCOMPARE(Default<frmPrint>().vs.PageCount(), 0);
 }
 
 void tst_GuideLinks::aPrintToolReportsItsTagAndThenThePrinting_data()

@@ -225,7 +225,7 @@ void tst_GuideViews::inAnIntroductionTheCheckMovesBack()
     QFETCH(QString, view);
     RunningSystem system;
     system.start();
-    for (const auto &section : {u"101"_s, u"104"_s}) {
+    for (const auto &section : {u"101"_s, u"102"_s, u"103"_s, u"104"_s}) {
         const frmIGSteps &guide = loadWithChecked(view, section);
         QVERIFY(guide.mnuNav.Tools(u"Requirement"_s).Checked());
         QVERIFY(!guide.mnuNav.Tools(view).Checked());

@@ -2,6 +2,7 @@
 #include "documents/guide/GuideWindow.h"
 
 #include "command_center/OrderLog.h"
+#include "shell/SharedState.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
@@ -33,6 +34,7 @@ private slots:
     void onlyTheStepHasViews();
     void onlyTheLiveStepPrintsItsPage_data();
     void onlyTheLiveStepPrintsItsPage();
+    void loadingGoesInItsOrder();
     void itBearsItsTitleBehindThePrefix();
     void itOpensMaximisedAndActive();
     void itsDesignCaptionNamesTheModule();
@@ -118,6 +120,27 @@ void tst_frmIGSteps::onlyTheLiveStepPrintsItsPage()
     const ActiveBar &links = open.guide->mnuLinks;
     QTEST(links.Tools(u"prtPartial"_s).Enabled(), "page");
     QVERIFY(!links.Tools(u"prtComplete"_s).Enabled());
+}
+
+void tst_frmIGSteps::loadingGoesInItsOrder()
+{
+    RunningSystem system;
+    system.start();
+    auto *guide = new frmIGSteps;
+    OrderLog log;
+    log.lookAt(guide->mnuLinks, &ActiveBar::Changed);
+    log.lookAt(guide->mnuNav, &ActiveBar::Changed);
+    log.lookAt(guide->rtfData, &RichTextBox::Change);
+    log.lookAt(guide->shell(), &QWidget::windowTitleChanged);
+    log.watch(u"laid out"_s, [&] { return guide->ssMnu.Width() == Shared().FrameScaleWidth; });
+    log.watch(u"title"_s, [&] { return guide->Caption() == u"A" && guide->Tag() == u"[Implementation Guide] - A"; });
+    log.watch(u"page"_s, [&] { return guide->rtfData.Text().startsWith(u"Welcome to orvane"); });
+    log.watch(u"heading"_s, [&] { return guide->pnlHeading.Caption() == u"Welcome to orvane"; });
+    log.watch(u"views"_s, [&] { return !guide->mnuNav.Tools(u"Requirement"_s).Enabled(); });
+    log.watch(u"print tools"_s, [&] { return !guide->mnuLinks.Tools(u"prtComplete"_s).Enabled(); });
+    OpenWindowCore(*guide, u"A"_s, u"101"_s);
+    QCOMPARE(log.order(),
+             (QStringList{u"print tools"_s, u"views"_s, u"heading"_s, u"page"_s, u"title"_s, u"laid out"_s}));
 }
 
 void tst_frmIGSteps::itBearsItsTitleBehindThePrefix()

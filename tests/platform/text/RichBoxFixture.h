@@ -5,6 +5,8 @@
 #include "platform/controls/text/zelRich.h"
 
 #include <QClipboard>
+#include <QDropEvent>
+#include <QInputMethodEvent>
 #include <QMimeData>
 #include <QTextEdit>
 
@@ -48,6 +50,24 @@ inline void fillClipboard(const QMap<QString, QByteArray> &contents)
 inline QByteArray onClipboard(const QString &format)
 {
     return QGuiApplication::clipboard()->mimeData()->data(format);
+}
+
+// What an input method and another program do with a text.
+inline void compose(QWidget &widget, const QString &text)
+{
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+inline void drop(QTextEdit &edit, const QString &text)
+{
+    QMimeData dragged;
+    dragged.setText(text);
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(edit.viewport(), &enter);
+    QDropEvent dropped(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(edit.viewport(), &dropped);
 }
 
 } // namespace orvane::test

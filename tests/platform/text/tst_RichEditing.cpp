@@ -2,8 +2,6 @@
 #include "platform/text/RichBoxFixture.h"
 
 #include <QContextMenuEvent>
-#include <QDropEvent>
-#include <QInputMethodEvent>
 #include <QMenu>
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,23 +11,6 @@ using namespace orvane::test;
 namespace
 {
 const QString Page = uR"({\rtf1{\fonttbl{\f0 Times New Roman;}}\f0\fs24 one {\b two} three\par four})"_s;
-
-void compose(QWidget &widget, const QString &text)
-{
-    QInputMethodEvent event;
-    event.setCommitString(text);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void drop(QTextEdit &edit, const QString &text)
-{
-    QMimeData dragged;
-    dragged.setText(text);
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(edit.viewport(), &enter);
-    QDropEvent dropped(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(edit.viewport(), &dropped);
-}
 } // namespace
 
 class tst_RichEditing : public QObject
