@@ -41,7 +41,9 @@ private slots:
 
     void aToolFindsItsWindow_data();
     void aToolFindsItsWindow();
+    void aTagIsNotComparedWithACaption();
     void theFirstOfTwoMatchesComesForward();
+    void theWindowMenuMaximisesAMinimisedWindow_data();
     void theWindowMenuMaximisesAMinimisedWindow();
     void theDiagramRestoresAMinimisedWindowToNormal();
     void theWindowMenuLaysOutTheWindowItBringsForward();
@@ -98,6 +100,15 @@ void tst_BringForward::aToolFindsItsWindow()
     QCOMPARE(m_system->active(), &guide());
 }
 
+void tst_BringForward::aTagIsNotComparedWithACaption()
+{
+    openGuide();
+    m_system->diagram().SetFocus();
+    LooseTool loose(u"name"_s, 0, GuideTag);
+    OpenFromTool(loose.tool);
+    QCOMPARE(m_system->active(), &m_system->diagram());
+}
+
 void tst_BringForward::theFirstOfTwoMatchesComesForward()
 {
     OpenProcedures(u"Emergency Plan"_s, u"311"_s);
@@ -107,12 +118,21 @@ void tst_BringForward::theFirstOfTwoMatchesComesForward()
     QCOMPARE(m_system->active()->Tag(), u"[Management Procedures] - Emergency Plan"_s);
 }
 
+void tst_BringForward::theWindowMenuMaximisesAMinimisedWindow_data()
+{
+    QTest::addColumn<int>("activeState");
+    QTest::newRow("behind a maximised window") << int(Maximized);
+    QTest::newRow("behind a normal one") << int(Normal);
+}
+
 void tst_BringForward::theWindowMenuMaximisesAMinimisedWindow()
 {
+    QFETCH(int, activeState);
     openGuide();
+    OpenManual(u"Scope"_s, u"219"_s);
+    manual().setWindowState(activeState);
     guide().setWindowState(Minimized);
-    m_system->diagram().SetFocus();
-    QCOMPARE(guide().WindowState(), int(Minimized));
+    QCOMPARE(m_system->active(), &manual());
     chooseInWindowMenu(GuideTag);
     QCOMPARE(guide().WindowState(), int(Maximized));
     QCOMPARE(m_system->active(), &guide());
@@ -133,10 +153,10 @@ void tst_BringForward::theWindowMenuLaysOutTheWindowItBringsForward()
 {
     openGuide();
     m_system->diagram().SetFocus();
-    int layouts = 0;
-    countCalls(guide(), u"Form_Resize"_s, layouts);
+    QList<const Form *> activeAtLayout;
+    guide().names().add(u"Form_Resize"_s, [&](const CallArguments &) { activeAtLayout << m_system->active(); });
     chooseInWindowMenu(GuideTag);
-    QCOMPARE(layouts, 1);
+    QCOMPARE(activeAtLayout, QList<const Form *>{&guide()});
 }
 
 void tst_BringForward::theWindowMenuDoesNotLayOutTheDiagram()

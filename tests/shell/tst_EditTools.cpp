@@ -63,6 +63,7 @@ private slots:
     void cutAndCopyFollowTheSelection_data();
     void cutAndCopyFollowTheSelection();
     void aSelectionInAPlainTextBoxDoesNotCount();
+    void aSelectionBesideTheFrameCountsToo();
     void withoutFocusCutAndCopyAreDisabled();
     void noOtherToolChanges();
     void aSelectionInTheGuideIsFollowedAsItIsMade();
@@ -207,6 +208,22 @@ void tst_EditTools::aSelectionInAPlainTextBoxDoesNotCount()
     UpdateEditTools();
     QVERIFY(!enabled(u"miCut"_s));
     QVERIFY(!enabled(u"miCopy"_s));
+}
+
+// What counts is the control that has the focus on the screen, in whichever window.
+void tst_EditTools::aSelectionBesideTheFrameCountsToo()
+{
+    frmDemo &console = m_system->console();
+    console.SetFocus();
+    QTRY_VERIFY(console.shell().isActiveWindow());
+    console.rtf.SetFocus();
+    QTRY_COMPARE(screenActiveControl(), &console.rtf);
+    console.rtf.setSelLength(3);
+    UpdateEditTools();
+    QVERIFY(enabled(u"miCut"_s) && enabled(u"miCopy"_s));
+    console.rtf.setSelLength(0);
+    UpdateEditTools();
+    QVERIFY(!enabled(u"miCut"_s) && !enabled(u"miCopy"_s));
 }
 
 void tst_EditTools::withoutFocusCutAndCopyAreDisabled()

@@ -5,6 +5,7 @@
 #include "tour/DealerText.h"
 
 #include <QApplication>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -39,6 +40,7 @@ private slots:
     void init();
     void cleanup();
 
+    void loadLaysTheMenuOutAndStartsTheCounter();
     void aSmallFrameSnapsBack();
     void aDraggedFrameSnapsBackToItsLimits_data();
     void aDraggedFrameSnapsBackToItsLimits();
@@ -90,6 +92,16 @@ void tst_Frame::init()
 void tst_Frame::cleanup()
 {
     m_system.reset();
+}
+
+void tst_Frame::loadLaysTheMenuOutAndStartsTheCounter()
+{
+    mdiMain unloaded;
+    const QSignalSpy layouts(&unloaded.mnuMain, &ActiveBar::Changed);
+    QCOMPARE(Shared().ToolIdCounter, 0);
+    unloaded.Load();
+    QCOMPARE(layouts.count(), 1);
+    QCOMPARE(Shared().ToolIdCounter, 35000);
 }
 
 void tst_Frame::aSmallFrameSnapsBack()

@@ -1,6 +1,8 @@
 // The menu as the user works it, by keys and by the mouse.
+#include "command_center/DiagramUser.h"
 #include "shell/ShellProbes.h"
 #include "support/RunningSystem.h"
+#include "support/UserOnBars.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -32,6 +34,8 @@ private slots:
     void aWindowByItsNumberKey();
     void selectAllByKeysReachesTheTextAtWork();
     void copyByTheMouseReachesTheTextAtWork();
+    void toolsOfOneNameAreToldApart_data();
+    void toolsOfOneNameAreToldApart();
 
 private:
     frmDemo &console() const { return m_system->console(); }
@@ -120,6 +124,34 @@ void tst_MenuByHand::copyByTheMouseReachesTheTextAtWork()
         if (action->objectName() == u"miCopy")
             QTest::mouseClick(edit, Qt::LeftButton, {}, edit->actionGeometry(action).center());
     QCOMPARE(clipboard(), page->Text().left(10));
+}
+
+void tst_MenuByHand::toolsOfOneNameAreToldApart_data()
+{
+    QTest::addColumn<QStringList>("path");
+    QTest::addColumn<QString>("caption");
+    const QString name = u"mnuEnvironmentalAspects"_s;
+    QTest::newRow("a step") << QStringList{u"ImpGuide"_s, u"cmd24StepPlan"_s, u"mnuPhase1"_s, name}
+                            << u"STEP 5 - Environmental Aspects"_s;
+    QTest::newRow("a section") << QStringList{u"EnvManual"_s, u"mnuRequirements"_s, u"mnuPlanning"_s, name}
+                               << u"Environmental Aspects"_s;
+    QTest::newRow("a tool") << QStringList{u"ActionTools"_s, name} << u"Environmental Aspects and Impacts"_s;
+}
+
+void tst_MenuByHand::toolsOfOneNameAreToldApart()
+{
+    QFETCH(QStringList, path);
+    QFETCH(QString, caption);
+    QStringList clicked;
+    connect(&m_system->frame().mnuMain, &ActiveBar::Click, this,
+            [&](const Tool *tool) { clicked << u"%1 %2"_s.arg(tool->ToolTag()).arg(tool->Caption()); });
+    giveFocus(m_system->diagram().cmdImp(1));
+    QMenu *command = openMenu(Qt::Key_C);
+    QVERIFY(command);
+    bool chosen = false;
+    QCOMPARE(noticesDuring(*m_system, [&] { chosen = clickThrough(*command, path); }), 1);
+    QVERIFY(chosen);
+    QCOMPARE(clicked, QStringList{u"900 "_s + caption});
 }
 
 QTEST_MAIN(tst_MenuByHand)

@@ -38,6 +38,7 @@ private slots:
     void namesAreComparedInTheirCase();
 
     void exitShowsTheEndAndClosesNothing();
+    void withDealerTextExitShowsTheDealersEnd();
     void exitIsReportedBeforeTheEnd();
     void exitLeavesAHiddenConsoleHidden();
     void propertiesAreShownModeless();
@@ -211,6 +212,15 @@ void tst_MenuCommands::exitShowsTheEndAndClosesNothing()
     QCOMPARE(loadedNames(), windows);
     QVERIFY(frame().Visible());
     QVERIFY(!m_system->host.exitCode());
+}
+
+void tst_MenuCommands::withDealerTextExitShowsTheDealersEnd()
+{
+    Shared().DealerTextPresent = True;
+    press(u"mnuFile"_s, u"exit"_s);
+    QCOMPARE(console().Tag(), u"604"_s);
+    QVERIFY(console().cmdQuit.Visible());
+    QVERIFY(frame().Visible());
 }
 
 // Its own number takes the way to the end off the screen, and 603 brings it back.

@@ -50,6 +50,8 @@ private slots:
     void aClickOnItsFrameUnloadsTheSplash();
     void theSplashHasNoTimer();
     void theLegalNoticesAreToBeSeenWhole();
+    void theSplashHoldsItsControls_data();
+    void theSplashHoldsItsControls();
     void aKeyDuringTheLoadsTakesTheSplashAwayAndStopsNothing();
 
     void theIntroFollowsTheSplash();
@@ -190,6 +192,24 @@ void tst_StartUp::theLegalNoticesAreToBeSeenWhole()
         const QRect needed = shown.fontMetrics().boundingRect(shown.rect(), Qt::TextWordWrap, notice->Caption());
         QVERIFY2(shown.rect().contains(needed), qPrintable(notice->Name()));
     }
+}
+
+void tst_StartUp::theSplashHoldsItsControls_data()
+{
+    QTest::addColumn<QString>("holder");
+    for (const char *control : {"zelGradient", "Picture1", "Frame1"})
+        QTest::newRow(control) << u""_s;
+    for (const char *control : {"Label1", "lblCompanyProduct", "lblUserName", "lblPlatform", "lblVersion", "lblWarning",
+                                "lblCopyright", "imgLogo", "lblUserCompany", "imgTitle"})
+        QTest::newRow(control) << u"Frame1"_s;
+}
+
+void tst_StartUp::theSplashHoldsItsControls()
+{
+    const Control *control = Default<frmSplash>().control(QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY(control);
+    const Control *holder = Control::of(control->widget().parentWidget());
+    QTEST(holder ? holder->Name() : u""_s, "holder");
 }
 
 // Between the loads the splash hears its events.

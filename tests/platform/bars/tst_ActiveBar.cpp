@@ -46,6 +46,7 @@ private slots:
     void theCaseOfANameCounts();
     void allToolsCountInStoredOrder();
     void ofEqualNamesTheFirstToolIsFound();
+    void aBandAndAToolOfOneNameAreTwoThings();
     void whatIsMissingIsRefusedAndNamed_data();
     void whatIsMissingIsRefusedAndNamed();
     void aFlyoutThatNamesNoBandIsRefused();
@@ -108,6 +109,18 @@ void tst_ActiveBar::ofEqualNamesTheFirstToolIsFound()
     BarWindow window;
     QCOMPARE(window.bar->Tools(u"Close"_s).ToolTag(), 207);
     QCOMPARE(window.bar->Bands(u"EMLink"_s).Tools(u"Close"_s).ToolTag(), 5);
+}
+
+void tst_ActiveBar::aBandAndAToolOfOneNameAreTwoThings()
+{
+    const BarFrame frame;
+    const Tool &title = frame.bar.Tools(u"mnuFile"_s);
+    QCOMPARE(title.Id(), 20);
+    QCOMPARE(title.Flyout(), u"mnuFile"_s);
+    const Band &menu = frame.bar.Bands(u"mnuFile"_s);
+    QCOMPARE(&menu, &frame.bar.Bands(1));
+    QVERIFY(!menu.Tools().contains(u"mnuFile"_s));
+    QVERIFY(frame.bar.Bands(0).Tools().contains(u"mnuFile"_s));
 }
 
 void tst_ActiveBar::whatIsMissingIsRefusedAndNamed_data()

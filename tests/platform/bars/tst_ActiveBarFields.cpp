@@ -21,6 +21,7 @@ private slots:
     void typingAnEntryIsNoPick();
     void theFieldFollowsTheTool();
     void aFieldSpeaksItsCaption();
+    void aFieldThatFindsNoRoomStandsInTheMenuOfTheRest();
 };
 
 void tst_ActiveBarFields::whatIsTypedStandsInTheTool()
@@ -145,6 +146,30 @@ void tst_ActiveBarFields::aFieldSpeaksItsCaption()
     QCOMPARE(window.shell().findChild<QLineEdit *>(u"PageNumber"_s)->accessibleName(), u"Page Number"_s);
     QTest::keyClick(window.edit, Qt::Key_Z, Qt::AltModifier);
     QTRY_VERIFY(zoom->hasFocus());
+}
+
+void tst_ActiveBarFields::aFieldThatFindsNoRoomStandsInTheMenuOfTheRest()
+{
+    BarWindow window(PreviewBands);
+    window.open();
+    window.bar->Tools(u"PageNumber"_s).setText(u"3"_s);
+    window.bar->setWidth(toTwips(60));
+    QSignalSpy keys(window.bar.get(), &ActiveBar::KeyPress);
+    QSignalSpy clicks(window.bar.get(), &ActiveBar::Click);
+    QString shown;
+    onceAMenuIsOpen(window, [&](QMenu &menu) {
+        auto *field = menu.findChild<QLineEdit *>(u"PageNumber"_s);
+        shown = field->text();
+        field->selectAll();
+        QTest::keyClicks(field, u"7"_s);
+        window.bar->Tools(u"PageNumber"_s).setToolTipText(u"Goes there"_s);
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    QTest::mousePress(window.button(u"more"_s), Qt::LeftButton);
+    QCOMPARE(shown, u"3"_s);
+    QCOMPARE(window.bar->Tools(u"PageNumber"_s).Text(), u"7"_s);
+    QCOMPARE(keys.count(), 2);
+    QCOMPARE(clicks.count(), 1);
 }
 
 QTEST_MAIN(tst_ActiveBarFields)

@@ -177,9 +177,10 @@ void tst_ActiveBarFlyouts::aFlyoutOpenedByAnAssistiveTechnologyClicks()
     for (const QString &action :
          {QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::showMenuAction()}) {
         onceAMenuIsOpen(window, [](QMenu &menu) { clickEntry(menu, u"mnuMP"_s); });
+        const auto before = clicks.count();
         spoken->doAction(action);
+        QTRY_COMPARE(clicks.count(), before + 1);
     }
-    QCOMPARE(clicks.count(), 2);
 }
 
 void tst_ActiveBarFlyouts::theBarMayEndWhileItsFlyoutIsOpen()
