@@ -14,7 +14,7 @@ namespace orvane
 
 namespace
 {
-constexpr qint64 LargestFile = 64 * 1024 * 1024; // bytes; the file is held in memory for a moment
+constexpr qint64 LargestFile = qint64{64} * 1024 * 1024; // bytes; the file is held in memory for a moment
 
 bool write(const QString &fileName, const QByteArray &bytes)
 {
