@@ -1,4 +1,4 @@
-# Compiler cache, fast linker, warnings and sanitizers: one place for the whole tree.
+# Compiler cache, fast linker, warnings, sanitizers and coverage: one place for the whole tree.
 
 find_program(ORVANE_CCACHE ccache)
 if(ORVANE_CCACHE)
@@ -37,4 +37,10 @@ endif()
 if(ORVANE_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
+endif()
+
+# The counters are atomic, for a job is handed to the print service in a thread of its own.
+if(ORVANE_COVERAGE)
+    add_compile_options(--coverage -fprofile-update=atomic)
+    add_link_options(--coverage)
 endif()

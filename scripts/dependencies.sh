@@ -11,12 +11,19 @@
     packages_run=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite x11-utils)
     packages_wayland=(qt6-wayland)
     packages_virtual_display=(xvfb openbox)
-    packages_bench=(libbenchmark-dev hyperfine time poppler-utils unrtf pandoc abiword libreoffice-writer-nogui)
+    packages_bench=(libbenchmark-dev time poppler-utils unrtf pandoc abiword libreoffice-writer-nogui)
     # A test prints on a scheduler of its own, and reads what comes out.
     packages_printing=(cups printer-driver-cups-pdf poppler-utils)
-    packages_check=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite "${packages_printing[@]}" mandoc
-        clang-format-14 clang libclang-rt-14-dev)
+    # Tests run the program on displays of their own, with a hand that clicks and types there.
+    packages_hand=("${packages_virtual_display[@]}" xdotool)
+    # A test listens to the program as a screen reader does, on buses of its own.
+    packages_access=("${packages_virtual_display[@]}" at-spi2-core dbus)
+    packages_check=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite "${packages_printing[@]}" "${packages_hand[@]}"
+        "${packages_access[@]}" mandoc clang-format-14 clang libclang-rt-14-dev)
     packages_tidy=(clang-tidy)
+    # hardening-check is among the scripts for developers.
+    packages_package=(dpkg-dev file lintian appstream desktop-file-utils devscripts)
+    packages_coverage=(gcovr)
 }
 
 missing_packages() {

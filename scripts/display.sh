@@ -36,11 +36,11 @@ start() {
     return 1
 }
 
-# A window is active only where a window manager makes it so.
+# start_virtual_display [WIDTHxHEIGHT]: a window is active only where a window manager makes it so.
 start_virtual_display() {
-    local first_line=
+    local size=${1:-1280x1024} first_line=
     trap stop_virtual_display EXIT
-    start Xvfb Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset
+    start Xvfb Xvfb -displayfd 1 -screen 0 "${size}x24" -nolisten tcp -noreset
     unset WAYLAND_DISPLAY XAUTHORITY
     export DISPLAY=:$first_line QT_QPA_PLATFORM=xcb
     start openbox openbox --sm-disable --startup "echo ready"

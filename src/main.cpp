@@ -8,11 +8,22 @@
 #include <QApplication>
 #include <QMetaObject>
 
+namespace
+{
+// A Wayland desktop lets no program place its windows, or keep one above the others.
+void preferX11()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+}
+} // namespace
+
 int main(int argc, char *argv[])
 {
+    preferX11();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("orvane"));
-    QApplication::setQuitOnLastWindowClosed(false); // the console's Quit ends the program
+    QApplication::setDesktopFileName(QStringLiteral("orvane")); // gives the windows the name and icon of the entry
+    QApplication::setQuitOnLastWindowClosed(false);             // the console's Quit ends the program
     orvane::applyLooks(application);
     QMetaObject::invokeMethod(
         &application, [] { orvane::guarded([] { orvane::Default<orvane::frmSplash>().Show(); }); },

@@ -25,9 +25,12 @@ private slots:
     void aRoundWithoutAnEndIsLeft();
     void wrongUseIsRefused_data();
     void wrongUseIsRefused();
+    void noTemporaryFolderIsLeft_data();
+    void noTemporaryFolderIsLeft();
 
 private:
     int run(const QStringList &arguments);
+    bool write(const QByteArray &script) const;
     int walk(const QByteArray &script);
     QString path(const QString &name) const { return m_folder->filePath(name); }
     QByteArray page() const;
@@ -63,12 +66,15 @@ int tst_TourWalk::run(const QStringList &arguments)
     return process.exitCode();
 }
 
-int tst_TourWalk::walk(const QByteArray &script)
+bool tst_TourWalk::write(const QByteArray &script) const
 {
     QFile file(path(u"script.ini"_s));
-    if (!file.open(QIODevice::WriteOnly) || file.write(script) != script.size()) return -1;
-    file.close();
-    return run({u"script.ini"_s});
+    return file.open(QIODevice::WriteOnly) && file.write(script) == script.size();
+}
+
+int tst_TourWalk::walk(const QByteArray &script)
+{
+    return write(script) ? run({u"script.ini"_s}) : -1;
 }
 
 QByteArray tst_TourWalk::page() const
@@ -167,6 +173,25 @@ void tst_TourWalk::wrongUseIsRefused()
     QCOMPARE(run(arguments), 2);
     QVERIFY2(m_errors.contains(reason), qPrintable(m_errors));
     QVERIFY(m_output.isEmpty());
+}
+
+void tst_TourWalk::noTemporaryFolderIsLeft_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<int>("exitCode");
+    QTest::newRow("a walk") << u"script.ini"_s << 0;
+    QTest::newRow("a script that is not there") << u"none.ini"_s << 2;
+}
+
+void tst_TourWalk::noTemporaryFolderIsLeft()
+{
+    QFETCH(QString, script);
+    QVERIFY(QDir(path({})).mkdir(u"temporary"_s));
+    qputenv("TMPDIR", QFile::encodeName(path(u"temporary"_s)));
+    const auto restore = qScopeGuard([] { qunsetenv("TMPDIR"); });
+    QVERIFY(write(step("101", "One", "603/cc/1") + anEnd()));
+    QTEST(run({script}), "exitCode");
+    QCOMPARE(QDir(path(u"temporary"_s)).entryList({u"tourwalk*"_s}), QStringList());
 }
 
 QTEST_GUILESS_MAIN(tst_TourWalk)

@@ -26,10 +26,10 @@ struct Request {
     QString out;
 };
 
-[[noreturn]] void refuse(const QString &reason)
+ExitCode refused(const QString &reason)
 {
     std::fputs(qUtf8Printable(u"tourwalk: "_s + reason + u'\n'), stderr);
-    std::exit(WrongUse);
+    return WrongUse;
 }
 
 Request readRequest(const QStringList &arguments)
@@ -46,16 +46,17 @@ Request readRequest(const QStringList &arguments)
     parser.addPositionalArgument(u"SCRIPT"_s, u"The script; without one, that beside the program."_s, u"[SCRIPT]"_s);
     parser.process(arguments);
     const QStringList scripts = parser.positionalArguments();
-    if (scripts.size() > 1) refuse(u"one script at a time; see --help"_s);
+    if (scripts.size() > 1) std::exit(refused(u"one script at a time; see --help"_s));
     return {scripts.value(0), parser.value(out)};
 }
 
-// A program folder with another script in it.
-void furnish(const QString &folder, const QString &script)
+// A program folder with another script in it. False where the script can't be read.
+bool furnish(const QString &folder, const QString &script)
 {
-    if (!QFile::copy(script, folder + u"/DemoData.ini"_s)) refuse(u"\"%1\" can't be read"_s.arg(script));
+    if (!QFile::copy(script, folder + u"/DemoData.ini"_s)) return false;
     for (const QString &name : {u"DealerData.dat"_s, u"Orvane.hlp"_s})
         QFile::link(QCoreApplication::applicationDirPath() + u'/' + name, folder + u'/' + name);
+    return true;
 }
 
 bool walkThrough(walk::WalkHost &host, walk::HandOut &handOut, const QDir &folder)
@@ -72,6 +73,21 @@ bool walkThrough(walk::WalkHost &host, walk::HandOut &handOut, const QDir &folde
                 handOut.documents(), handOut.complaints(), qUtf8Printable(folder.filePath(u"index.html"_s)));
     return ended && written && handOut.complaints() == 0;
 }
+
+// Its temporary folders are gone when it returns.
+ExitCode answer(const Request &request)
+{
+    const QTemporaryDir settings; // the tour confirms the user's details, and must not change those of whoever runs it
+    const QTemporaryDir program;
+    setSettingsFolder(settings.path());
+    if (!request.script.isEmpty() && !furnish(program.path(), request.script))
+        return refused(u"\"%1\" can't be read"_s.arg(request.script));
+    const QDir folder(request.out);
+    if (!folder.mkpath(u"."_s)) return refused(u"\"%1\" can't be made"_s.arg(request.out));
+    walk::WalkHost host(request.script.isEmpty() ? QString() : program.path(), folder.absolutePath());
+    walk::HandOut handOut(folder);
+    return walkThrough(host, handOut, folder) ? Whole : NotWhole;
+}
 } // namespace
 
 int main(int argc, char *argv[])
@@ -81,16 +97,7 @@ int main(int argc, char *argv[])
     QApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
     applyLooks(application);
-    const Request request = readRequest(QApplication::arguments());
-    const QTemporaryDir settings; // the tour confirms the user's details, and must not change those of whoever runs it
-    const QTemporaryDir program;
-    setSettingsFolder(settings.path());
-    if (!request.script.isEmpty()) furnish(program.path(), request.script);
-    const QDir folder(request.out);
-    if (!folder.mkpath(u"."_s)) refuse(u"\"%1\" can't be made"_s.arg(request.out));
-    walk::WalkHost host(request.script.isEmpty() ? QString() : program.path(), folder.absolutePath());
-    walk::HandOut handOut(folder);
-    const bool whole = walkThrough(host, handOut, folder);
+    const ExitCode exitCode = answer(readRequest(QApplication::arguments()));
     std::fflush(stdout);
-    std::_Exit(whole ? Whole : NotWhole); // as the program itself ends: no window's clean-up
+    std::_Exit(exitCode); // as the program itself ends: no window's clean-up
 }
