@@ -61,6 +61,7 @@ void frmCommandCentre::buildPanels()
     for (const auto &row : diagram::frames()) {
         SSPanel &panel = pnlDiag.add(row.index, *this, SSPanel::Card);
         panel.setVisible(row.index == 1);
+        panel.setPurpose(SSRibbon1(row.index).Caption());
         fraButtons.add(row.index, panel).Move(row.left, row.top, row.width, row.height);
     }
     pnlDiag(1).Move(240, 2040, 6975, 2775);

@@ -80,6 +80,9 @@ void frmDemo::dressControls()
     txtNext.setPurpose(QStringLiteral("Script of Next"));
     for (TextBox *box : {&txtPrev, &txtTag, &txtNext})
         box->setEnabled(false);
+    // These are lower than a line of the font that a desktop may prefer.
+    for (CommandButton *button : {&cmdNext, &cmdClose, &cmdQuit})
+        button->setFont(QStringLiteral("Arial"), 9, false);
     txtInfo.setVisible(false);
     for (CommandButton *button : {&cmdPrint, &cmdNext, &cmdClose, &cmdQuit})
         button->setVisible(false);

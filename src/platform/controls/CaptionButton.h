@@ -20,6 +20,7 @@ public:
 
     void setPicture(const QString &name); // a file under pictures/, without its ending
     void setDropsMenu(bool drops);
+    bool dropsMenu() const { return m_dropsMenu; }
     void setCaptionColour(const QColor &colour);
     const QColor &captionColour() const { return m_captionColour; }
 

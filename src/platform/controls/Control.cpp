@@ -3,7 +3,9 @@
 #include "platform/forms/Form.h"
 #include "platform/system/RunTimeError.h"
 
+#include <QAbstractScrollArea>
 #include <QEvent>
+#include <QScrollBar>
 #include <QVariant>
 #include <algorithm>
 
@@ -168,6 +170,10 @@ void Control::speak()
     if (name.isEmpty()) name = m_purpose;
     voice().setAccessibleName(name);
     m_widget->setAccessibleName(name);
+    const auto *area = qobject_cast<const QAbstractScrollArea *>(m_widget);
+    if (!area || name.isEmpty()) return;
+    area->verticalScrollBar()->setAccessibleName(name + QStringLiteral(", up and down"));
+    area->horizontalScrollBar()->setAccessibleName(name + QStringLiteral(", left and right"));
 }
 
 void Control::setMousePointer(int pointer)

@@ -4,6 +4,7 @@
 #include "platform/forms/FocusRest.h"
 #include "platform/forms/ShellGeometry.h"
 #include "platform/forms/WindowList.h"
+#include "platform/spoken/SpokenWidgets.h"
 #include "platform/system/Guard.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@ namespace orvane
 
 Form::Form(const QString &name, QWidget *shell, QWidget *surface) : m_shell(shell), m_surface(surface)
 {
+    speakOwnWidgets();
     setObjectName(name);
     shell->setObjectName(name);
     if (surface != shell) surface->setObjectName(name + QStringLiteral("Surface"));

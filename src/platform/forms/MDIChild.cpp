@@ -1,5 +1,6 @@
 #include "platform/forms/MDIChild.h"
 
+#include "platform/forms/FormSurface.h"
 #include "platform/forms/MDIForm.h"
 #include "platform/system/RunTimeError.h"
 
@@ -17,7 +18,7 @@ const char ChildProperty[] = "orvaneChild";
 
 QWidget *newSurface(QMdiSubWindow &subWindow)
 {
-    auto *surface = new QWidget;
+    auto *surface = new FormSurface;
     surface->setAutoFillBackground(true);
     subWindow.setWidget(surface);
     return surface;

@@ -20,12 +20,14 @@ MDIForm::MDIForm(const QString &name, QMainWindow *window, QMdiArea *area)
     : Form(name, window, area->viewport()), m_area(area), m_status(new QLabel)
 {
     area->setObjectName(name + QStringLiteral("Area"));
+    area->setAccessibleName(QStringLiteral("Open windows"));
     area->setFrameShape(QFrame::NoFrame);
     area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     area->setBackground(window->palette().brush(QPalette::Mid));
     window->setWindowIcon(programMark());
     window->setCentralWidget(area);
     m_status->setObjectName(QStringLiteral("status"));
+    window->statusBar()->setAccessibleName(QStringLiteral("Status"));
     window->statusBar()->setSizeGripEnabled(false);
     window->statusBar()->addWidget(m_status, 1);
     connect(area, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow *sub) {

@@ -1,11 +1,13 @@
 #include "platform/forms/Window.h"
 
 #include "platform/controls/CommandButton.h"
+#include "platform/forms/FormSurface.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <algorithm>
 
 namespace orvane
 {
@@ -17,7 +19,7 @@ QWidget *newShell(Window::Border border)
     const Qt::WindowFlags frame = border == Window::NoBorder
                                       ? Qt::FramelessWindowHint
                                       : Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
-    return new QWidget(nullptr, Qt::Window | frame);
+    return new FormSurface(nullptr, Qt::Window | frame);
 }
 
 bool isOnTop(const QWidget &shell)
@@ -39,6 +41,13 @@ void raiseDialogs()
     if (QWidget *modal = QApplication::activeModalWidget()) modal->raise();
 }
 
+// Whether any control in it can have the focus.
+bool takesKeys(const QWidget &shell)
+{
+    const auto widgets = shell.findChildren<QWidget *>();
+    return std::ranges::any_of(widgets, [](const QWidget *widget) { return widget->focusPolicy() != Qt::NoFocus; });
+}
+
 QPushButton &buttonShownBy(const CommandButton &button)
 {
     return static_cast<QPushButton &>(button.widget());
@@ -56,6 +65,7 @@ void Window::Show(int mode)
         const QRect room = shell().screen()->availableGeometry();
         shell().move(room.center() - shell().rect().center());
     }
+    if (!takesKeys(shell())) focusRest().setFocus();
     Form::Show(mode);
     if (isFloating(shell())) raiseDialogs();
 }

@@ -256,6 +256,7 @@ void tst_RichClipboard::hypertextGivesItsText_data()
         "<html><head><title>t</title><style>p{}</style></head><body><!--StartFragment-->one"
         "<!--EndFragment--></body></html>",
         u"one"_s);
+    row("declarations", "<?xml version=\"1.0\"?><!DOCTYPE html><p>one<?php two ?></p><![CDATA[three]]>", u"one"_s);
     row("script", "one<script>if (a<b) two()</script>", u"one"_s);
     row("table", "<table><tr><td>a<td>b</tr><tr><th colspan=2000000000>c</table>", u"a\nb\nc"_s);
     row("numbered list", "<ol><li>one<li>two<ol><li>in</ol></li><li>three</ol>", u"1. one\n2. two\n1. in\n3. three"_s);

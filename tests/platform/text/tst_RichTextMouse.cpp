@@ -56,6 +56,7 @@ void tst_RichTextMouse::mouseUpTellsButtonShiftAndPlace_data()
     QTest::newRow("left") << Qt::LeftButton << M() << 1 << 0;
     QTest::newRow("right") << Qt::RightButton << M() << 2 << 0;
     QTest::newRow("middle") << Qt::MiddleButton << M() << 4 << 0;
+    QTest::newRow("one beside the three") << Qt::BackButton << M() << 0 << 0;
     QTest::newRow("Shift") << Qt::LeftButton << M(Qt::ShiftModifier) << 1 << 1;
     QTest::newRow("Ctrl") << Qt::LeftButton << M(Qt::ControlModifier) << 1 << 2;
     QTest::newRow("Alt") << Qt::LeftButton << M(Qt::AltModifier) << 1 << 4;

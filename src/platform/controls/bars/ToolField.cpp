@@ -72,6 +72,7 @@ void ToolField::follow(const Tool &tool, bool withAccessKey)
     const QString caption = shownCaption(tool);
     m_label->setText(withAccessKey ? caption : withoutAccessKey(caption));
     m_field->setAccessibleName(spokenName(tool));
+    m_edit->setAccessibleName(spokenName(tool));
     m_field->setAccessibleDescription(tool.ToolTipText());
     setToolTip(tool.ToolTipText().isEmpty() ? spokenName(tool) : tool.ToolTipText());
     setEnabled(tool.Enabled());

@@ -126,10 +126,20 @@ void RichEdit::insertPiece(const QTextDocument &piece)
     textCursor().insertFragment(QTextDocumentFragment(&piece));
 }
 
+// As a click at the caret, for those who read without a mouse.
+void RichEdit::pressAtCaret()
+{
+    const QPointer<RichEdit> self = this;
+    emit pressed();
+    if (self) emit released(numberOf(Qt::LeftButton), 0, cursorRect().center());
+}
+
 // In a box of one line, Enter goes to the window's default button.
 void RichEdit::keyPressEvent(QKeyEvent *event)
 {
-    if (m_oneLine && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) return event->ignore();
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (m_oneLine && isEnter) return event->ignore();
+    if (isReadOnly() && isEnter) return pressAtCaret();
     const QKeyCombination keys = event->keyCombination();
     const auto *known = std::find_if(EditKeys.begin(), EditKeys.end(), [&](auto &each) { return each.keys == keys; });
     if (known == EditKeys.end()) return QTextEdit::keyPressEvent(event);
@@ -161,7 +171,7 @@ void RichEdit::openMenu(const QPoint &place)
 // The toolkit's own would make the letters of a read-only text larger.
 void RichEdit::wheelEvent(QWheelEvent *event)
 {
-    QAbstractScrollArea::wheelEvent(event);
+    QAbstractScrollArea::wheelEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void RichEdit::showEvent(QShowEvent *event)

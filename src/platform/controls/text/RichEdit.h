@@ -40,6 +40,7 @@ protected:
 
 private:
     void openMenu(const QPoint &place);
+    void pressAtCaret();
 
     bool m_oneLine = false;
 };
