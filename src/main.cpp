@@ -7,9 +7,19 @@
 
 #include <QApplication>
 #include <QMetaObject>
+#include <cstdlib>
 
 namespace
 {
+QtMessageHandler usualHandler = nullptr;
+
+// What the toolkit can't go on without, such as a display, is no crash of the program's.
+void endWithFailure(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    usualHandler(type, context, message);
+    if (type == QtFatalMsg) std::_Exit(EXIT_FAILURE);
+}
+
 // A Wayland desktop lets no program place its windows, or keep one above the others.
 void preferX11()
 {
@@ -19,6 +29,7 @@ void preferX11()
 
 int main(int argc, char *argv[])
 {
+    usualHandler = qInstallMessageHandler(endWithFailure);
     preferX11();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("orvane"));

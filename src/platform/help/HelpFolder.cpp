@@ -41,7 +41,8 @@ bool HelpFolder::takeInCache()
         m_path = QStringLiteral("%1/help%2").arg(cache).arg(number);
         m_lock = lockOf(m_path);
     }
-    return m_lock && QDir(m_path).removeRecursively() && QDir().mkpath(m_path);
+    constexpr auto OwnersAlone = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    return m_lock && QDir(m_path).removeRecursively() && QDir().mkdir(m_path, OwnersAlone);
 }
 
 void HelpFolder::takeTemporary()

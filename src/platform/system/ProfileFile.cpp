@@ -1,6 +1,7 @@
 #include "platform/system/ProfileFile.h"
 
 #include "platform/system/CodePage1252.h"
+#include "platform/system/FolderLock.h"
 #include "platform/system/ProfileEdit.h"
 #include "platform/system/ProfileScan.h"
 
@@ -76,6 +77,7 @@ QString readProfileString(const QString &section, const QString &key, const QStr
 bool writeProfileString(const QString &section, const QString &key, const QString &value, const QString &fileName)
 {
     if (!canNameProfileLine(section, key)) return false;
+    const FolderLock lock(QFileInfo(fileName).path());
     QFile before(fileName);
     const bool isNew = !before.exists();
     if (!isNew && !openForReading(before)) return false;

@@ -14,8 +14,8 @@ QString readProfileString(const QString &section, const QString &key, const QStr
 
 // Puts a value in place of the old one, or adds its line, its section or the file; every other byte stays. The value is
 // written as it stands, except that line breaks in it are dropped. The file is replaced in one step: whoever reads it
-// finds the old or the new one whole. False where that failed, or where the names could not be read back; the file is
-// then as it was.
+// finds the old or the new one whole, and of two programs that write one waits for the other. False where that failed,
+// or where the names could not be read back; the file is then as it was.
 bool writeProfileString(const QString &section, const QString &key, const QString &value, const QString &fileName);
 
 } // namespace orvane

@@ -1,5 +1,7 @@
 #include "platform/system/SettingsStore.h"
 
+#include "platform/system/FolderLock.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
@@ -64,9 +66,10 @@ void replaceFile(const QString &fileName, const QByteArray &bytes)
 {
     const QDateTime before = QFileInfo(fileName).lastModified();
     QSaveFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) return;
-    if (!file.flush()) return; // a commit overlooks what its own flush couldn't write
+    if (!file.open(QIODevice::WriteOnly)) return;
     if (!before.isValid()) file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    if (file.write(bytes) != bytes.size()) return;
+    if (!file.flush()) return; // a commit overlooks what its own flush couldn't write
     makeNewerThan(before, file);
     file.commit();
 }
@@ -82,11 +85,13 @@ QString GetSetting(const QString &application, const QString &section, const QSt
 
 void SaveSetting(const QString &application, const QString &section, const QString &key, const QString &value)
 {
+    const QString fileName = openSettings(application)->fileName();
+    const QString folderName = QFileInfo(fileName).path();
+    QDir().mkpath(folderName);
+    const FolderLock lock(folderName);
     const auto saved = openSettings(application);
     if (saved->status() == QSettings::AccessError) return; // there may be more in it
     saved->setFallbacksEnabled(false);
-    const QString fileName = saved->fileName();
-    QDir().mkpath(QFileInfo(fileName).path());
     const QTemporaryDir folder(fileName + u".XXXXXX"_s);
     if (!folder.isValid()) return;
     QSettings draft(folder.filePath(u"draft.ini"_s), QSettings::IniFormat);

@@ -12,7 +12,8 @@ namespace orvane
 QString GetSetting(const QString &application, const QString &section, const QString &key,
                    const QString &defaultValue = {});
 
-// On disk when it returns, the file being replaced in one step. A failure isn't reported.
+// On disk when it returns, the file being replaced in one step. What another program saves at the same time stays. A
+// failure isn't reported.
 void SaveSetting(const QString &application, const QString &section, const QString &key, const QString &value);
 
 // Where the files stand from now on; empty is the system's place for the user.

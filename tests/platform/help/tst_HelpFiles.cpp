@@ -1,4 +1,5 @@
 // Help files that are missing, damaged or not ours are refused with a sentence, and leave no window.
+#include "platform/help/HelpFile.h"
 #include "platform/system/RunTimeError.h"
 #include "support/HelpUser.h"
 
@@ -34,6 +35,7 @@ private slots:
     void aFileWithWrongBytesIsRefusedOrRead_data();
     void aFileWithWrongBytesIsRefusedOrRead();
     void afterARefusalTheRightFileOpens();
+    void aFullDiskIsRefused();
     void aRefusalLeavesNoFolder();
     void aRefusalLeavesTheOpenWindow();
     void anOpenWindowOutlivesItsFile();
@@ -268,6 +270,18 @@ void tst_HelpFiles::afterARefusalTheRightFileOpens()
     write(right);
     m_user->openContents();
     QCOMPARE(m_user->pageName(), u"index.html"_s);
+}
+
+// The device is as full as a disk can be.
+void tst_HelpFiles::aFullDiskIsRefused()
+{
+    try {
+        copyHelpFile(m_user->file(), u"/dev/full"_s);
+        QFAIL("a copy without room was taken for good");
+    } catch (const RunTimeError &error) {
+        QCOMPARE(error.Number(), int(PathAccessError));
+        QCOMPARE(error.Description(), u"The help can't be shown: there is no room for its index."_s);
+    }
 }
 
 void tst_HelpFiles::aRefusalLeavesNoFolder()

@@ -1,4 +1,5 @@
 // What the help leaves behind: nothing beside the program, nothing in the settings, nothing in the cache.
+#include "platform/system/RunTimeError.h"
 #include "support/HelpUser.h"
 
 #include <QDir>
@@ -28,6 +29,7 @@ private slots:
     void twoProgramsHaveAFolderEach();
     void withoutACacheTheHelpWorksToo_data();
     void withoutACacheTheHelpWorksToo();
+    void withoutAnyFolderItSaysSo();
 
 private:
     QString folder(int number) const;
@@ -160,6 +162,22 @@ void tst_HelpTraces::withoutACacheTheHelpWorksToo()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     m_user->openSearch();
     QCOMPARE(m_user->tab(), u"Search"_s);
+}
+
+void tst_HelpTraces::withoutAnyFolderItSaysSo()
+{
+    qputenv("XDG_CACHE_HOME", "/proc");
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc");
+    QString told;
+    try {
+        WinHelp(m_user->file(), HelpContents);
+    } catch (const RunTimeError &error) {
+        told = error.Description();
+    }
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    QCOMPARE(told, u"The help can't be shown: there is no folder that it could keep its index in."_s);
+    QVERIFY(!m_user->window());
 }
 
 QTEST_MAIN(tst_HelpTraces)

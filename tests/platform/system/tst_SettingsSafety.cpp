@@ -110,6 +110,7 @@ private slots:
     void aKillAtAnyMomentLeavesTheOldOrTheNewValue();
     void aReadOnlyFolderKeepsTheOldValue();
     void aFileThatCanNotBeReadIsKept();
+    void aClockThatWasSetBackHidesNoValue();
 
 private:
     QByteArray bytes() const;
@@ -238,6 +239,21 @@ void tst_SettingsSafety::aFileThatCanNotBeReadIsKept()
     QVERIFY(WIFEXITED(status));
     QCOMPARE(WEXITSTATUS(status), 0);
     QVERIFY(bytes() == before);
+}
+
+// A value of the same length leaves only the time of the file to tell that there is something new.
+void tst_SettingsSafety::aClockThatWasSetBackHidesNoValue()
+{
+    save(u"Ada"_s);
+    QFile file(m_folder->filePath(Application + u".ini"_s));
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    const QDateTime ahead = QDateTime::currentDateTime().addDays(1);
+    QVERIFY(file.setFileTime(ahead, QFileDevice::FileModificationTime));
+    file.close();
+    QCOMPARE(GetSetting(Application, Section, u"Name"_s), u"Ada"_s);
+    save(u"Eva"_s);
+    QCOMPARE(GetSetting(Application, Section, u"Name"_s), u"Eva"_s);
+    QVERIFY(QFileInfo(file).lastModified() > ahead);
 }
 
 QTEST_GUILESS_MAIN(tst_SettingsSafety)

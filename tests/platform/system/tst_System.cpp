@@ -5,6 +5,7 @@
 #include "support/TestHost.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -58,6 +59,7 @@ private slots:
     void aMessageGoesByTheKeys();
     void aMessageIsNeverTakenForMarkup();
     void theHostBeforeIsHandedBack();
+    void theProgramsFolderIsWhereItsFileLies();
 };
 
 void tst_System::aRunTimeErrorIsShownAndEndsTheProgram()
@@ -316,6 +318,11 @@ void tst_System::theHostBeforeIsHandedBack()
         QCOMPARE(&host(), static_cast<Host *>(&other));
     }
     QCOMPARE(&host(), machine);
+}
+
+void tst_System::theProgramsFolderIsWhereItsFileLies()
+{
+    QCOMPARE(Host().programFolder(), QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path());
 }
 
 QTEST_MAIN(tst_System)
