@@ -28,7 +28,8 @@ void readRtf(QStringView text, QTextDocument &document);
 // False where the two documents would make one that is taller than can be laid out.
 bool fitTogether(const QTextDocument &one, const QTextDocument &other);
 
-// The shortest RTF, on one line of ASCII characters, that reads back to the same document.
+// The RTF, on one line of ASCII characters, that reads back to the same document: as short as goes with what other
+// programs make of it.
 QString writeRtf(const QTextDocument &document);
 
 // The same for what is selected. An empty selection gives an empty document.

@@ -9,7 +9,7 @@ namespace orvane
 {
 
 struct RtfGroup {
-    enum Destination { Body, Fonts, Colours, BulletDefinition };
+    enum Destination { Body, Fonts, Colours, BulletDefinition, ListLabel };
 
     RtfCharacters characters;
     RtfParagraph paragraph;

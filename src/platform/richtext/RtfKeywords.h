@@ -55,6 +55,8 @@ enum class RtfWord : unsigned char {
     ColourTable,
     BulletGroup,
     BulletText,
+    ListLabel,
+    FieldResult,
 };
 
 struct RtfKeyword {

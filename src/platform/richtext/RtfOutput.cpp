@@ -17,12 +17,6 @@ bool isPlain(QChar c)
     return c >= u' ' && c < u'\x7F' && c != u'\\' && c != u'{' && c != u'}';
 }
 
-// Behind a control word, these would be taken for a part of it.
-bool continuesWord(QChar c)
-{
-    return c == u' ' || c == u'-' || c.isLetterOrNumber();
-}
-
 QString symbolFor(char16_t character)
 {
     switch (character) {
@@ -41,9 +35,8 @@ QString symbolFor(char16_t character)
     }
 }
 
-QString encoded(QChar character)
+QString byteFor(QChar character)
 {
-    if (!CodePage1252::hasCode(character)) return u"\\u%1?"_s.arg(static_cast<qint16>(character.unicode()));
     return u"\\'"_s + QString::fromLatin1(CodePage1252::encode(QStringView(&character, 1)).toHex());
 }
 
@@ -69,7 +62,8 @@ void RtfOutput::addText(QStringView text)
 void RtfOutput::addPlain(QStringView plain)
 {
     if (plain.isEmpty()) return;
-    if (m_afterWord && continuesWord(plain.front())) m_text += u' ';
+    // Some programs take whatever comes right behind a word for its end.
+    if (m_afterWord) m_text += u' ';
     m_text += plain;
     m_afterWord = false;
 }
@@ -80,8 +74,15 @@ void RtfOutput::addSpecial(char16_t character)
     if (character == QChar::LineSeparator) return addCodes(u"\\line"_s);
     if (!isRtfTextCharacter(character)) return;
     const QString symbol = symbolFor(character);
-    m_text += symbol.isEmpty() ? encoded(character) : symbol;
+    if (symbol.isEmpty() && !CodePage1252::hasCode(QChar(character))) return addUnicode(character);
+    m_text += symbol.isEmpty() ? byteFor(QChar(character)) : symbol;
     m_afterWord = false;
+}
+
+void RtfOutput::addUnicode(char16_t character)
+{
+    addCodes(u"\\u%1"_s.arg(static_cast<qint16>(character)));
+    m_hasUnicode = true;
 }
 
 } // namespace orvane

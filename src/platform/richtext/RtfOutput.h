@@ -1,5 +1,5 @@
-// RTF under construction: knows when a blank has to part a control word from the text behind it, and how each character
-// is written. The text grows on one line, in ASCII.
+// RTF under construction: parts each control word from the text behind it by a blank, and knows how each character is
+// written. The text grows on one line, in ASCII.
 #pragma once
 
 #include <QString>
@@ -16,13 +16,18 @@ public:
     void addText(QStringView text);
 
     const QString &text() const { return m_text; }
+    // Characters have been written by number, with nothing behind them for readers that don't know numbers: the
+    // document has to say so.
+    bool hasUnicode() const { return m_hasUnicode; }
 
 private:
     void addPlain(QStringView plain);
     void addSpecial(char16_t character);
+    void addUnicode(char16_t character);
 
     QString m_text;
     bool m_afterWord = false;
+    bool m_hasUnicode = false;
 };
 
 } // namespace orvane

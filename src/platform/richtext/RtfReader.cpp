@@ -2,10 +2,22 @@
 
 #include <QFont>
 #include <QTextDocument>
+#include <algorithm>
 #include <utility>
 
 namespace orvane
 {
+
+namespace
+{
+
+// Numbers have a letter or a digit. The ring of a list's second level comes as the letter of that look.
+bool isBulletMark(QStringView mark)
+{
+    return mark == u"o" || std::none_of(mark.begin(), mark.end(), [](QChar c) { return c.isLetterOrNumber(); });
+}
+
+} // namespace
 
 RtfReader::RtfReader(QStringView text, QTextDocument &document)
     : m_tokenizer(text), m_builder(document), m_documentFamily(charactersOf(document.defaultFont()).family)
@@ -20,7 +32,7 @@ void RtfReader::read()
         m_over = token.kind == RtfToken::End;
         if (!skips(token)) take(token);
     }
-    m_builder.finish(m_group.paragraph, m_group.characters);
+    m_builder.finish(labelledParagraph(), m_group.characters);
 }
 
 void RtfReader::take(const RtfToken &token)
@@ -81,11 +93,24 @@ void RtfReader::leaveGroup()
         m_fonts.endEntry();
         useFont(m_fonts.defaultFont());
     }
+    if (left.destination == RtfGroup::ListLabel) takeLabel(left);
     if (left.destination == RtfGroup::BulletDefinition) {
         m_group.paragraph.bullet = left.paragraph.bullet;
         m_group.paragraph.bulletIndent = left.paragraph.bulletIndent;
         m_group.paragraph.numbered = left.paragraph.numbered;
     }
+}
+
+// Programs that keep their lists in a table give each item its label for readers that don't know the table.
+void RtfReader::takeLabel(const RtfGroup &label)
+{
+    const QString text = std::exchange(m_label, {});
+    const QString mark = text.trimmed();
+    if (mark.isEmpty()) return;
+    if (label.codePage == SymbolCodePage || isBulletMark(mark))
+        m_labelBullet = true;
+    else
+        m_builder.addText(text, label.characters);
 }
 
 void RtfReader::skipRestOfGroup()
@@ -110,8 +135,7 @@ void RtfReader::takeSymbol(char16_t symbol)
         return takeCharacter(0x2011);
     case u'\r':
     case u'\n':
-        if (m_group.destination == RtfGroup::Body) endParagraph();
-        return;
+        return endParagraph();
     default:
         return;
     }
@@ -126,6 +150,9 @@ void RtfReader::takeText(QStringView text)
         return m_fonts.addText(text);
     case RtfGroup::Colours:
         return m_colours.addText(text);
+    case RtfGroup::ListLabel:
+        m_label += text;
+        return;
     case RtfGroup::BulletDefinition:
         return;
     }

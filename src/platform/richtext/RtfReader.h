@@ -28,6 +28,7 @@ private:
     void closeGroup();
     void leaveGroup();
     void skipRestOfGroup();
+    void takeLabel(const RtfGroup &label);
 
     void takeSymbol(char16_t symbol);
     void takeText(QStringView text);
@@ -46,6 +47,8 @@ private:
     void useFont(const RtfFont &font);
     void resetCharacters();
     void endParagraph();
+    void breakPage();
+    RtfParagraph labelledParagraph();
 
     RtfTokenizer m_tokenizer;
     RtfBuilder m_builder;
@@ -54,10 +57,12 @@ private:
     std::vector<RtfGroup> m_outer; // the groups around the current one
     RtfGroup m_group;
     QString m_documentFamily;
-    int m_skip = 0;            // characters still to be left out behind a "\u"
-    bool m_groupStart = false; // nothing but "\*" has come since the group was opened
-    bool m_starred = false;    // "\*" has come: the group is to be left out if its word isn't known
-    bool m_header = true;      // no text has come, and no word that text would have before it
+    QString m_label;            // of the list's item that is begun, as far as it has come
+    bool m_labelBullet = false; // it is a bullet, of the paragraph under way
+    int m_skip = 0;             // characters still to be left out behind a "\u"
+    bool m_groupStart = false;  // nothing but "\*" has come since the group was opened
+    bool m_starred = false;     // "\*" has come: the group is to be left out if its word isn't known
+    bool m_header = true;       // no text has come, and no word that text would have before it
     bool m_over = false;
 };
 

@@ -28,6 +28,7 @@ void RtfReader::takeWord(const RtfToken &token)
     }
     switch (m_group.destination) {
     case RtfGroup::Body:
+    case RtfGroup::ListLabel:
         return applyToBody(*keyword, token);
     case RtfGroup::Fonts:
         return applyToFonts(keyword->word, token.value);
@@ -50,6 +51,12 @@ void RtfReader::enterDestination(RtfWord word)
         return;
     case RtfWord::BulletGroup:
         return enterBulletDefinition();
+    case RtfWord::ListLabel:
+        m_group.destination = RtfGroup::ListLabel;
+        m_label.clear();
+        return;
+    case RtfWord::FieldResult:
+        return;
     // Numbers of a list are part of the text, bullets are not.
     case RtfWord::BulletText:
         if (!m_group.paragraph.numbered) skipRestOfGroup();
@@ -83,7 +90,7 @@ void RtfReader::applyToBody(const RtfKeyword &keyword, const RtfToken &token)
     case RtfWord::ParagraphBreak:
         return endParagraph();
     case RtfWord::PageBreak:
-        return m_builder.breakPage(m_group.paragraph, m_group.characters);
+        return breakPage();
     case RtfWord::UnicodeSkip:
         m_group.unicodeSkip = std::clamp(token.value, 0, MostSkipped);
         return;
@@ -159,7 +166,20 @@ void RtfReader::resetCharacters()
 
 void RtfReader::endParagraph()
 {
-    m_builder.endParagraph(m_group.paragraph, m_group.characters);
+    if (m_group.destination == RtfGroup::Body) m_builder.endParagraph(labelledParagraph(), m_group.characters);
+}
+
+void RtfReader::breakPage()
+{
+    if (m_group.destination == RtfGroup::Body) m_builder.breakPage(labelledParagraph(), m_group.characters);
+}
+
+// A label is of one paragraph only.
+RtfParagraph RtfReader::labelledParagraph()
+{
+    RtfParagraph paragraph = m_group.paragraph;
+    paragraph.bullet |= std::exchange(m_labelBullet, false);
+    return paragraph;
 }
 
 } // namespace orvane

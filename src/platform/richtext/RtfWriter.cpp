@@ -11,6 +11,11 @@ using namespace Qt::Literals::StringLiterals;
 namespace
 {
 
+// For programs that know no bullets but those of a list in this table.
+constexpr QLatin1StringView
+    BulletList("{\\*\\listtable{\\list{\\listlevel\\levelnfc23{\\leveltext\\'01\\'95;}{\\levelnumbers;}}\\listid1}}"
+               "{\\*\\listoverridetable{\\listoverride\\listid1\\ls1}}");
+
 QString code(QLatin1StringView word, int value)
 {
     return word + QString::number(value);
@@ -64,7 +69,7 @@ QString paragraphCodes(const RtfParagraph &from, const RtfParagraph &to)
     if (from.before != to.before) codes += code("\\sb"_L1, to.before);
     if (from.after != to.after) codes += code("\\sa"_L1, to.after);
     if (from.tabs != to.tabs) codes += tabCodes(to.tabs);
-    if (from.bullet != to.bullet) codes += "{\\*\\pn\\pnlvlblt}"_L1;
+    if (from.bullet != to.bullet) codes += "{\\*\\pn\\pnlvlblt}\\ls1"_L1;
     return codes;
 }
 
@@ -93,7 +98,10 @@ QString RtfWriter::header(double defaultTab) const
     QString text = u"{\\rtf1\\ansi\\ansicpg1252"_s;
     const int tab = twipsOfPixels(defaultTab);
     if (tab != DefaultTabTwips) text += code("\\deftab"_L1, tab);
-    text += fontTable();
+    const RtfOutput fonts = fontTable();
+    if (fonts.hasUnicode() || m_body.hasUnicode()) text += "\\uc0"_L1;
+    text += fonts.text();
+    if (m_bullets) text += BulletList;
     if (m_colours.isEmpty()) return text;
     text += "{\\colortbl;"_L1;
     for (const QRgb colour : m_colours)
@@ -102,7 +110,7 @@ QString RtfWriter::header(double defaultTab) const
     return text + u'}';
 }
 
-QString RtfWriter::fontTable() const
+RtfOutput RtfWriter::fontTable() const
 {
     RtfOutput table;
     table.addCodes(u"{\\fonttbl"_s);
@@ -111,7 +119,8 @@ QString RtfWriter::fontTable() const
         table.addText(QString(m_families[i]).remove(u';'));
         table.addCodes(u";}"_s);
     }
-    return table.text() + u'}';
+    table.addCodes(u"}"_s);
+    return table;
 }
 
 void RtfWriter::writeBlock(const QTextBlock &block)
@@ -138,6 +147,7 @@ void RtfWriter::writeText(const QString &text)
 
 void RtfWriter::writeParagraph(const RtfParagraph &wanted)
 {
+    m_bullets = m_bullets || wanted.bullet;
     const QString reset = "\\pard"_L1 + paragraphCodes({}, wanted);
     const QString changed = paragraphCodes(m_paragraph, wanted);
     if (!(wanted == m_paragraph))
@@ -145,14 +155,10 @@ void RtfWriter::writeParagraph(const RtfParagraph &wanted)
     m_paragraph = wanted;
 }
 
+// Without a reset, which some programs take for more than the characters behind it.
 void RtfWriter::writeCharacters(const RtfCharacters &wanted)
 {
-    if (wanted == m_characters) return;
-    RtfCharacters plain;
-    plain.family = m_families.first();
-    const QString reset = "\\plain"_L1 + characterCodes(plain, wanted);
-    const QString changed = characterCodes(m_characters, wanted);
-    m_body.addCodes(reset.size() < changed.size() ? reset : changed);
+    m_body.addCodes(characterCodes(m_characters, wanted));
     m_characters = wanted;
 }
 

@@ -17,7 +17,7 @@ public:
 
 private:
     QString header(double defaultTab) const;
-    QString fontTable() const;
+    RtfOutput fontTable() const;
     void writeBlock(const QTextBlock &block);
     void writeText(const QString &text);
     void writeParagraph(const RtfParagraph &wanted);
@@ -32,6 +32,7 @@ private:
     RtfCharacters m_defaults; // of the document, for what a format leaves open
     QStringList m_families;
     QList<QRgb> m_colours;
+    bool m_bullets = false; // there are such paragraphs
 };
 
 } // namespace orvane

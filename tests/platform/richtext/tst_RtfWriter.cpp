@@ -90,6 +90,8 @@ private slots:
     void anEmptySelectionIsAnEmptyDocument();
     void itIsOneLineOfAscii();
     void aLookIsWrittenOnceForItsRun();
+    void aSizeInPixelsIsWrittenInHalfPoints();
+    void theDocumentsOwnFontMayBeInPixels();
 };
 
 void tst_RtfWriter::aSampleReadsBackTheSame_data()
@@ -193,6 +195,24 @@ void tst_RtfWriter::aLookIsWrittenOnceForItsRun()
     const QString written = writeRtf(RtfDocument(page(u"\\b one\\par\\b two\\par {\\b three}\\b0 four"_s)));
     QCOMPARE(written.count(u"\\b "_s) + written.count(u"\\b\\"_s), 1);
     QCOMPARE(written.count(u"\\b0"_s), 1);
+}
+
+// As in text that comes from a page of hypertext: a pixel is three quarters of a point.
+void tst_RtfWriter::aSizeInPixelsIsWrittenInHalfPoints()
+{
+    QTextDocument document;
+    document.setHtml(u"<p style=\"font-size:20px\">sized</p>"_s);
+    QVERIFY2(writeRtf(document).contains(u"\\fs30"_s), qPrintable(writeRtf(document)));
+}
+
+void tst_RtfWriter::theDocumentsOwnFontMayBeInPixels()
+{
+    QTextDocument document;
+    QFont font(u"Arial"_s);
+    font.setPixelSize(20);
+    document.setDefaultFont(font);
+    document.setPlainText(u"plain"_s);
+    QVERIFY2(writeRtf(document).contains(u"\\fs30"_s), qPrintable(writeRtf(document)));
 }
 
 QTEST_MAIN(tst_RtfWriter)
