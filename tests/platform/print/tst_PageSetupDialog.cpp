@@ -41,6 +41,7 @@ class tst_PageSetupDialog : public QObject
 private slots:
     void whatIsLeftAloneComesBackAsItWas();
     void thePaperIsChosenByItsName();
+    void everyPaperOnOfferCanBeChosen();
     void aPaperThatFewPrintersTakeIsOfferedWhileInUse();
     void theOrientationIsChosen();
     void aMarginIsChosen();
@@ -72,13 +73,25 @@ void tst_PageSetupDialog::thePaperIsChosenByItsName()
     QCOMPARE(dialog.choice().setup.paperSize, A4Paper);
 }
 
+void tst_PageSetupDialog::everyPaperOnOfferCanBeChosen()
+{
+    PageSetupDialog dialog(letter());
+    auto &papers = in<QComboBox>(dialog, u"cboPaper"_s);
+    for (int index = 0; index < papers.count(); ++index) {
+        papers.setCurrentIndex(index);
+        const QString name = QPageSize::name(QPageSize::id(dialog.choice().setup.paperSize));
+        QCOMPARE(name, papers.currentText());
+        QVERIFY2(!dialog.choice().setup.page().isEmpty(), qPrintable(name));
+    }
+}
+
 void tst_PageSetupDialog::aPaperThatFewPrintersTakeIsOfferedWhileInUse()
 {
     PageChoice asked = letter();
-    asked.setup.paperSize = QPageSize::windowsId(QPageSize::Folio);
+    asked.setup.paperSize = QPageSize::windowsId(QPageSize::A3Extra);
     PageSetupDialog dialog(asked);
     QCOMPARE(dialog.choice().setup.paperSize, asked.setup.paperSize);
-    QVERIFY(!in<QComboBox>(dialog, u"cboPaper"_s).currentText().isEmpty());
+    QCOMPARE(in<QComboBox>(dialog, u"cboPaper"_s).currentText(), QPageSize::name(QPageSize::A3Extra));
 }
 
 void tst_PageSetupDialog::theOrientationIsChosen()

@@ -24,9 +24,16 @@ constexpr double TwipsPerInch = 1440;
 constexpr double TwipsPerMillimetre = TwipsPerInch / 25.4;
 constexpr double LeastRoom = TwipsPerInch; // between two margins
 
-// What printers in offices take; a paper that is none of them is offered while it is the one in use.
-constexpr std::array Papers{QPageSize::A3,     QPageSize::A4,    QPageSize::A5,        QPageSize::B5,
-                            QPageSize::Letter, QPageSize::Legal, QPageSize::Executive, QPageSize::Tabloid};
+// What printers in offices take; a paper that is none of them is offered while it is the one in use. Only papers that
+// have a number: the toolkit's B5 and its Executive of 7.5 inches have none.
+constexpr std::array Papers{QPageSize::A3,
+                            QPageSize::A4,
+                            QPageSize::A5,
+                            QPageSize::JisB5,
+                            QPageSize::Letter,
+                            QPageSize::Legal,
+                            QPageSize::ExecutiveStandard,
+                            QPageSize::Tabloid};
 
 bool inInches()
 {
