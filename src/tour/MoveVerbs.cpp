@@ -30,11 +30,6 @@ constexpr ModuleRow Modules[] = {
 // clang-format on
 } // namespace
 
-std::span<const VerbRow> moveVerbs()
-{
-    return Verbs;
-}
-
 std::span<const ModuleRow> moveModules()
 {
     return Modules;

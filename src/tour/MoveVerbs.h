@@ -37,7 +37,6 @@ struct ModuleRow {
     bool back; // the Back button opens it too
 };
 
-std::span<const VerbRow> moveVerbs();
 std::span<const ModuleRow> moveModules();
 
 // Null where there is none of that name on that way.

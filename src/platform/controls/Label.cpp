@@ -66,11 +66,6 @@ void Label::setForeColor(int colour)
     m_label.setPalette(palette);
 }
 
-void Label::setCentered()
-{
-    m_label.setAlignment(Qt::AlignCenter);
-}
-
 void Label::moved()
 {
     squeeze();

@@ -19,8 +19,7 @@ public:
     void setCaption(const QString &caption); // long texts wrap
     void setFont(const QString &family, double points, bool bold);
     void setForeColor(int colour); // blue, green, red
-    void setCentered();
-    void setOneLine(); // its letters become narrower, down to four fifths, where its width asks for it
+    void setOneLine();             // its letters become narrower, down to four fifths, where its width asks for it
 
 signals:
     void Click();

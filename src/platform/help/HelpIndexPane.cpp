@@ -36,10 +36,4 @@ void HelpIndexPane::layOut()
     column->addWidget(keywords);
 }
 
-void HelpIndexPane::takeFocus()
-{
-    m_filter->setFocus();
-    m_filter->selectAll();
-}
-
 } // namespace orvane

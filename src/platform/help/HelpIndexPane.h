@@ -18,8 +18,6 @@ class HelpIndexPane : public QWidget
 public:
     explicit HelpIndexPane(HelpLibrary &library);
 
-    void takeFocus();
-
 Q_SIGNALS:
     void chosen(const QUrl &page);
 
