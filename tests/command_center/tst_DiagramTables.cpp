@@ -267,8 +267,9 @@ void tst_DiagramTables::everyButtonIsSpokenOfAsOne()
     QVERIFY(spoken);
     QCOMPARE(spoken->role(), row.dropsMenu() ? QAccessible::ButtonMenu : QAccessible::Button);
     QCOMPARE(spoken->text(QAccessible::Name), row.caption.trimmed());
-    QCOMPARE(spoken->actionInterface()->actionNames().value(0),
-             row.dropsMenu() ? QAccessibleActionInterface::showMenuAction() : QAccessibleActionInterface::pressAction());
+    QCOMPARE(spoken->actionInterface()->actionNames().value(0), row.dropsMenu()
+                                                                    ? QAccessibleActionInterface::showMenuAction()
+                                                                    : QAccessibleActionInterface::pressAction());
 }
 
 void tst_DiagramTables::theTabThatIsDownIsSpokenOfAsChecked()
