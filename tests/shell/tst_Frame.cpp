@@ -324,6 +324,7 @@ void tst_Frame::quitRunsNoOtherWindowsCleanUp()
 
 void tst_Frame::theProgramsSignIsSharpInTheDesktopsList()
 {
+    m_system->start();
     QCOMPARE(m_system->frame().shell().windowIcon().pixmap(256).width(), 256);
 }
 

@@ -24,7 +24,6 @@ MDIForm::MDIForm(const QString &name, QMainWindow *window, QMdiArea *area)
     area->setFrameShape(QFrame::NoFrame);
     area->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     area->setBackground(window->palette().brush(QPalette::Mid));
-    window->setWindowIcon(programMark());
     window->setCentralWidget(area);
     m_status->setObjectName(QStringLiteral("status"));
     window->statusBar()->setAccessibleName(QStringLiteral("Status"));
@@ -34,6 +33,13 @@ MDIForm::MDIForm(const QString &name, QMainWindow *window, QMdiArea *area)
         MDIChild *child = sub ? MDIChild::of(*sub) : nullptr;
         if (child && m_areaMuted == 0) guarded([&] { childActivated(child); });
     });
+}
+
+// Nobody sees the sign before, and reading its sizes takes time.
+void MDIForm::Show(int mode)
+{
+    if (!shell().testAttribute(Qt::WA_SetWindowIcon)) shell().setWindowIcon(programMark());
+    Form::Show(mode);
 }
 
 void MDIForm::setStatusText(const QString &text)

@@ -21,6 +21,8 @@ class MDIForm : public Form
     Q_OBJECT
 
 public:
+    void Show(int mode = Modeless) override;
+
     // The child that is active among the children, whichever window of the program has the focus, or nullptr.
     MDIChild *ActiveForm() const { return m_active; }
 
