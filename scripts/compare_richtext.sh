@@ -13,12 +13,12 @@ source scripts/build.sh
 source scripts/session.sh
 
 others=(libreoffice abiword pandoc)
-work=build/bench/work/richtext
+made=build/bench/richtext
 samples=tests/data/rtf
 declare -A tell_of_rich_text=([libreoffice]=tell_libreoffice [abiword]=tell_abiword_of_rich_text [pandoc]=tell_pandoc)
 kept=(looks lists table marks letters places)
 
-office() { soffice "-env:UserInstallation=file://$PWD/$work/profile" --headless "$@" >/dev/null 2>&1; }
+office() { soffice "-env:UserInstallation=file://$PWD/$made/profile" --headless "$@" >/dev/null 2>&1; }
 
 # tell_PROGRAM FOLDER FILE...: what it says of these files, as plain text and as HTML. The name's end tells the format.
 tell_libreoffice() {
@@ -100,9 +100,9 @@ sum_up() {
 compare_theirs() {
     local other folder
     for other in "${others[@]}"; do
-        folder=$work/theirs/$other
+        folder=$made/theirs/$other
         mkdir -p "$folder"
-        "write_$other" "$folder" "$samples"/sheets/*.html "$work"/html/*.html
+        "write_$other" "$folder" "$samples"/sheets/*.html "$made"/html/*.html
         compare_files "$folder" | sum_up "theirs, of $other"
     done
 }
@@ -110,9 +110,9 @@ compare_theirs() {
 compare_ours() {
     local other folder file
     for other in "${others[@]}"; do
-        folder=$work/ours/$other
+        folder=$made/ours/$other
         mkdir -p "$folder"
-        cp "$work"/rtf/*.rtf "$folder"
+        cp "$made"/rtf/*.rtf "$folder"
         "${tell_of_rich_text[$other]}" "$folder" "$folder"/*.rtf
         compare_files "$folder" >"$folder.figures"
         grep -e '-own ' "$folder.figures" | sum_up "ours in $other"
@@ -124,18 +124,18 @@ compare_ours() {
 # from what a word processor made of them.
 make_sources() {
     local file name
-    mkdir -p "$work/pages" "$work/html" "$work/rtf"
-    "$programs/page_texts" "$work/pages"
-    for file in "$work"/pages/*.rtf; do
+    mkdir -p "$made/pages" "$made/html" "$made/rtf"
+    "$programs/page_texts" "$made/pages"
+    for file in "$made"/pages/*.rtf; do
         name=$(basename "$file" .rtf)
-        "$programs/richtextfacts" html "$file" "$work/html/$name.html"
-        cp "$file" "$work/rtf/$name.rtf"
-        "$programs/richtextfacts" rewrite "$file" "$work/rtf/$name-own.rtf"
+        "$programs/richtextfacts" html "$file" "$made/html/$name.html"
+        cp "$file" "$made/rtf/$name.rtf"
+        "$programs/richtextfacts" rewrite "$file" "$made/rtf/$name-own.rtf"
     done
-    office --infilter="HTML (StarWriter)" --convert-to "rtf:Rich Text Format" --outdir "$work/pages" "$samples"/sheets/*.html
+    office --infilter="HTML (StarWriter)" --convert-to "rtf:Rich Text Format" --outdir "$made/pages" "$samples"/sheets/*.html
     for file in "$samples"/sheets/*.html; do
         name=$(basename "$file" .html)
-        "$programs/richtextfacts" rewrite "$work/pages/$name.rtf" "$work/rtf/$name-own.rtf"
+        "$programs/richtextfacts" rewrite "$made/pages/$name.rtf" "$made/rtf/$name-own.rtf"
     done
 }
 
@@ -144,7 +144,7 @@ keep_samples() {
     for other in "${others[@]}"; do
         mkdir -p "$samples/$other"
         for sheet in "${kept[@]}"; do
-            name=$work/theirs/$other/$sheet
+            name=$made/theirs/$other/$sheet
             cp "$name.rtf" "$samples/$other"
             "$programs/richtextfacts" expect "$name.txt" "$name.html" >"$samples/$other/$sheet.facts"
         done
@@ -158,8 +158,8 @@ main() {
     programs=${1:-build/bench/bin}
     [[ -n ${1:-} ]] || build bench richtextfacts page_texts
     begin_session
-    rm -rf "$work"
-    mkdir -p "$work"
+    rm -rf "$made"
+    mkdir -p "$made"
     make_sources
     printf '%-24s %3s files %11s %11s %11s %11s %11s %11s\n' "all/amiss" "" words paragraphs bold italic sizes bullets
     compare_theirs
