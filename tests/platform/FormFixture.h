@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/forms/Window.h"
-#include "platform/system/RunTimeError.h"
+#include "support/ErrorOf.h"
 #include "support/TestHost.h"
 
 #include <QApplication>
@@ -109,17 +109,6 @@ inline QStringList logWithoutResize()
     QStringList log = eventLog();
     log.removeIf([](const QString &event) { return event.endsWith(QStringLiteral(" Resize")); });
     return log;
-}
-
-// The refusal of a step: its number, or 0.
-inline int errorOf(const std::function<void()> &step)
-{
-    try {
-        step();
-        return 0;
-    } catch (const RunTimeError &error) {
-        return error.Number();
-    }
 }
 
 // Deletes what was unloaded.

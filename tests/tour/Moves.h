@@ -20,6 +20,11 @@ inline void clickBack(const RunningSystem &system, const QString &script)
     system.click(system.console().cmdGoBack);
 }
 
+inline void clickWay(const RunningSystem &system, bool forward, const QString &script)
+{
+    (forward ? clickNext : clickBack)(system, script);
+}
+
 // The guide's step, in front.
 inline frmIGSteps &openStep(const RunningSystem &system)
 {

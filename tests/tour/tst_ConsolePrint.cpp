@@ -3,6 +3,7 @@
 #include "layouts/frmIGSteps_mnuLinks.h"
 #include "layouts/frmRCMain_mnuLinks.h"
 #include "printing/frmPrint.h"
+#include "support/ErrorOf.h"
 #include "tour/Moves.h"
 #include "tour/NamedWindow.h"
 
@@ -52,19 +53,6 @@ private:
     QList<bool> m_mutedAtChanges;
 };
 
-namespace
-{
-int refusalOf(const std::function<void()> &call)
-{
-    try {
-        call();
-    } catch (const RunTimeError &error) {
-        return error.Number();
-    }
-    return 0;
-}
-} // namespace
-
 void tst_ConsolePrint::init()
 {
     m_system.emplace();
@@ -106,7 +94,7 @@ void tst_ConsolePrint::nextClosesAMutedPreview()
     QFETCH(QString, script);
     const frmIGSteps &guide = openStep(*m_system);
     pressPrint();
-    forward ? clickNext(*m_system, script) : clickBack(*m_system, script);
+    clickWay(*m_system, forward, script);
     QCOMPARE(countWindows(u"frmPrint"_s), 0);
     QCOMPARE(m_system->active(), &guide);
     QVERIFY(Shared().TourStepsMuted == False);
@@ -285,8 +273,8 @@ void tst_ConsolePrint::nextClickShowsNoStepOfItsOwn()
 void tst_ConsolePrint::nextClickNeedsAWindowForALinkAlone()
 {
     m_system->diagram().Hide();
-    QCOMPARE(refusalOf([&] { console().NextClick(u"mn/Nav/Tips"_s); }), 0);
-    QCOMPARE(refusalOf([&] { console().NextClick(u"ml/subPrint/prtPartial"_s); }), int(ObjectNotSet));
+    QCOMPARE(errorOf([&] { console().NextClick(u"mn/Nav/Tips"_s); }), 0);
+    QCOMPARE(errorOf([&] { console().NextClick(u"ml/subPrint/prtPartial"_s); }), int(ObjectNotSet));
 }
 
 void tst_ConsolePrint::nextClickFailsOnMissingFieldsAndNames_data()
@@ -300,7 +288,7 @@ void tst_ConsolePrint::nextClickFailsOnMissingFieldsAndNames()
 {
     QFETCH(QString, script);
     openStep(*m_system);
-    QCOMPARE(refusalOf([&] { console().NextClick(script); }), int(SubscriptOutOfRange));
+    QCOMPARE(errorOf([&] { console().NextClick(script); }), int(SubscriptOutOfRange));
     QCOMPARE(countWindows(u"frmPrint"_s), 0);
 }
 

@@ -84,10 +84,7 @@ void tst_LiveWindows::cleanup()
 void tst_LiveWindows::move(const QString &script) const
 {
     QFETCH(bool, forward);
-    if (forward)
-        clickNext(*m_system, script);
-    else
-        clickBack(*m_system, script);
+    clickWay(*m_system, forward, script);
 }
 
 namespace

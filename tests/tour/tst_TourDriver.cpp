@@ -81,10 +81,7 @@ void tst_TourDriver::cleanup()
 void tst_TourDriver::move(const QString &script) const
 {
     QFETCH(bool, forward);
-    if (forward)
-        clickNext(*m_system, script);
-    else
-        clickBack(*m_system, script);
+    clickWay(*m_system, forward, script);
 }
 
 namespace

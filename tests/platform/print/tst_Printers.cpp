@@ -1,7 +1,7 @@
 // The list of printers, the run time's default printer, and the printers that are opened to print.
 #include "platform/print/DefaultPrinter.h"
 #include "platform/print/Printers.h"
-#include "platform/system/RunTimeError.h"
+#include "support/ErrorOf.h"
 #include "support/TestHost.h"
 
 #include <QPainter>
@@ -14,18 +14,6 @@ using namespace orvane::test;
 
 namespace
 {
-constexpr int NoError = 0;
-
-int errorOf(const std::function<void()> &step)
-{
-    try {
-        step();
-        return NoError;
-    } catch (const RunTimeError &error) {
-        return error.Number();
-    }
-}
-
 QStringList deviceNames()
 {
     QStringList names;

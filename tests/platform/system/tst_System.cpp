@@ -2,6 +2,7 @@
 #include "platform/system/Application.h"
 #include "platform/system/Guard.h"
 #include "platform/system/Number.h"
+#include "support/ErrorOf.h"
 #include "support/TestHost.h"
 
 #include <QApplication>
@@ -19,16 +20,6 @@ using namespace orvane::test;
 namespace
 {
 constexpr int NoError = 0;
-
-int errorOf(const std::function<void()> &step)
-{
-    try {
-        step();
-        return NoError;
-    } catch (const RunTimeError &error) {
-        return error.Number();
-    }
-}
 } // namespace
 
 class tst_System : public QObject

@@ -1,7 +1,6 @@
 // The rich-text control: its text, its selection, and what it lets the user do.
-#include "platform/FormFixture.h"
 #include "platform/controls/text/RichEdit.h"
-#include "platform/controls/text/RichTextBox.h"
+#include "platform/text/BoxWindow.h"
 
 #include <QClipboard>
 #include <QDropEvent>
@@ -18,14 +17,6 @@ using namespace orvane::test;
 
 namespace
 {
-class BoxWindow : public NotedWindow
-{
-public:
-    BoxWindow() { box.Move(0, 0, 4500, 3000); }
-
-    RichTextBox box{*this, u"rtfData"_s};
-};
-
 // A red picture that lies in the folder.
 QString savedPicture(const QTemporaryDir &folder)
 {

@@ -1,6 +1,5 @@
 // What the rich-text control tells of the mouse: the button, the keys that are held, the place, and a click.
-#include "platform/FormFixture.h"
-#include "platform/controls/text/RichTextBox.h"
+#include "platform/text/BoxWindow.h"
 
 #include <QMouseEvent>
 
@@ -10,14 +9,6 @@ using namespace orvane::test;
 
 namespace
 {
-class BoxWindow : public NotedWindow
-{
-public:
-    BoxWindow() { box.Move(0, 0, 4500, 3000); }
-
-    RichTextBox box{*this, u"rtfData"_s};
-};
-
 struct Mouse {
     int button = 0;
     int shift = 0;
