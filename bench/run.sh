@@ -11,14 +11,14 @@ source scripts/session.sh
 source scripts/display.sh
 source bench/timing.sh
 
-work=$PWD/build/bench/work
+made=$PWD/build/bench/made
 starts=40     # runs of what takes a tenth of a second
 conversions=5 # and of what takes seconds
 rest_seconds=10
 
 milliseconds() { awk -v s="$1" 'BEGIN { printf "%.1f ms", s * 1000 }'; }
 
-office() { echo "soffice -env:UserInstallation=file://$work/profile --headless"; }
+office() { echo "soffice -env:UserInstallation=file://$made/profile --headless"; }
 
 # processor_time PROGRAM OURS BARE: the medians of the two benchmarks' times, a line each, in the program's unit.
 processor_time() {
@@ -55,11 +55,11 @@ compare_opening() {
 compare_printing() {
     local module file times
     for module in 1 2 3 4; do
-        file=$work/module$module
+        file=$made/module$module
         "$programs/module_document" "$module" "$file.rtf"
         mapfile -t times < <(medians "$conversions" \
             "$programs/module_document $module $file.pdf" \
-            "$(office) --convert-to pdf --outdir $work/office $file.rtf" \
+            "$(office) --convert-to pdf --outdir $made/office $file.rtf" \
             "abiword --to=pdf --to-name=$file-abiword.pdf $file.rtf")
         budget "module $module as PDF to an office suite" "$(ratio "${times[0]}" "${times[1]}")" 0.1 \
             "$(milliseconds "${times[0]}") to $(milliseconds "${times[1]}")"
@@ -104,12 +104,12 @@ compare_wake_ups() {
 }
 
 compare_reading() {
-    local file=$work/long.rtf names=(libreoffice abiword pandoc unrtf) times i
+    local file=$made/long.rtf names=(libreoffice abiword pandoc unrtf) times i
     "$programs/long_document" >"$file"
     mapfile -t times < <(medians "$conversions" "$programs/rtf2text $file" \
-        "$(office) --convert-to txt:Text --outdir $work/office $file" \
-        "abiword --to=txt --to-name=$work/abiword.txt $file" \
-        "pandoc -f rtf -t plain -o $work/pandoc.txt $file" \
+        "$(office) --convert-to txt:Text --outdir $made/office $file" \
+        "abiword --to=txt --to-name=$made/abiword.txt $file" \
+        "pandoc -f rtf -t plain -o $made/pandoc.txt $file" \
         "unrtf --text $file")
     for i in "${!names[@]}"; do
         printf '%-58s %8s  %20s %s\n' "reading $(du -k "$file" | cut -f 1) kB of rich text to ${names[i]}" \
@@ -122,7 +122,7 @@ main() {
     install_packages "${packages_build[@]}" "${packages_run[@]}" "${packages_virtual_display[@]}" "${packages_bench[@]}"
     programs=${1:-build/bench/bin}
     [[ -n ${1:-} ]] || build bench
-    mkdir -p "$work/office"
+    mkdir -p "$made/office"
     begin_session
     start_virtual_display
     printf '%s cores\n' "$(nproc)"

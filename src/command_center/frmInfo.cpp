@@ -45,7 +45,7 @@ frmInfo::frmInfo()
     setFixedDesignSize(9315, 6990);
     Image1.Move(0, 0, 9315, 6990);
     Image1.setPicture(QStringLiteral("intro"));
-    Image1.setWords(pictureWords());
+    Image1.setWords(QSizeF(620, 465), pictureWords());
     Image1.setPurpose(QStringLiteral("The five modules round the Command Center. Press Enter to go on."));
     lblBtn.Move(3600, 5760, 1815, 495);
     lblBtn.setPurpose(QStringLiteral("Go on"));

@@ -246,7 +246,7 @@ void tst_Contrast::theWordsOfTheIntroStandOut()
     frmInfo &intro = Default<frmInfo>();
     QTRY_VERIFY(intro.shell().isVisible());
     const QImage with = intro.Image1.widget().grab().toImage();
-    intro.Image1.setWords({});
+    intro.Image1.setWords({}, {});
     const QImage without = intro.Image1.widget().grab().toImage();
     constexpr int Cell = 16;         // pixels: about a letter
     constexpr double Rounding = 1.1; // two drawings of the same differ by that

@@ -1,4 +1,5 @@
 // The chain of windows from the splash to the running system.
+#include "platform/controls/pictures/PaintedPicture.h"
 #include "platform/system/Application.h"
 #include "platform/system/SettingsStore.h"
 #include "shell/ShellProbes.h"
@@ -52,6 +53,8 @@ private slots:
     void theLegalNoticesAreToBeSeenWhole();
     void theSplashHoldsItsControls_data();
     void theSplashHoldsItsControls();
+    void aPictureOfTheStartIsPaintedByTheBuild_data();
+    void aPictureOfTheStartIsPaintedByTheBuild();
     void aKeyDuringTheLoadsTakesTheSplashAwayAndStopsNothing();
 
     void theIntroFollowsTheSplash();
@@ -210,6 +213,26 @@ void tst_StartUp::theSplashHoldsItsControls()
     QVERIFY(control);
     const Control *holder = Control::of(control->widget().parentWidget());
     QTEST(holder ? holder->Name() : u""_s, "holder");
+}
+
+void tst_StartUp::aPictureOfTheStartIsPaintedByTheBuild_data()
+{
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("picture");
+    QTest::newRow("splash") << u"Picture1"_s << u"splash"_s;
+    QTest::newRow("title") << u"imgTitle"_s << u"imgTitle"_s;
+    QTest::newRow("sign") << u"imgLogo"_s << u"mark"_s;
+    QTest::newRow("intro") << u"Image1"_s << u"intro"_s;
+}
+
+void tst_StartUp::aPictureOfTheStartIsPaintedByTheBuild()
+{
+    QFETCH(QString, control);
+    QFETCH(QString, picture);
+    const Control *shown = Default<frmSplash>().control(control);
+    if (!shown) shown = Default<frmInfo>().control(control);
+    QVERIFY(shown);
+    QVERIFY(!paintedPicture(picture, shown->widget().size()).isNull());
 }
 
 // Between the loads the splash hears its events.

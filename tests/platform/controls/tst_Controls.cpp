@@ -378,7 +378,8 @@ void tst_Controls::wordsStandAtTheirAnchor()
     Image image(*m_window, u"imgLogo"_s);
     image.Move(0, 0, twipsWide, twipsWide);
     image.setPicture(u"mark"_s);
-    image.setWords({{u"H"_s, 32, 40, 22, true, QColor(Qt::red), static_cast<PictureWords::Anchors>(anchor)}});
+    image.setWords(QSizeF(64, 64),
+                   {{u"H"_s, 32, 40, 22, true, QColor(Qt::red), static_cast<PictureWords::Anchors>(anchor)}});
     m_window->Show();
     const auto [first, last] = columnsOf(image.widget().grab().toImage(), QColor(Qt::red));
     QVERIFY(first >= 0);

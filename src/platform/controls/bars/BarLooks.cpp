@@ -2,17 +2,12 @@
 
 #include "platform/controls/Palette.h"
 #include "platform/controls/bars/Tool.h"
+#include "platform/controls/pictures/PictureFile.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
 #include <QWidget>
-
-// Outside any namespace, as the pictures' own code is; a static library drops them unless they are asked for.
-static void bringPicturesIn()
-{
-    Q_INIT_RESOURCE(pictures);
-}
 
 namespace orvane
 {
@@ -31,9 +26,8 @@ QHash<QString, QIcon> &knownIcons()
 
 QIcon readIcon(const QString &image)
 {
-    bringPicturesIn();
     if (knownIcons().isEmpty()) qAddPostRoutine([] { knownIcons().clear(); });
-    const QString file = QStringLiteral(":/pictures/tools/%1.svg").arg(image);
+    const QString file = pictureFile(QStringLiteral("tools/") + image);
     return QFile::exists(file) ? QIcon(file) : QIcon();
 }
 } // namespace

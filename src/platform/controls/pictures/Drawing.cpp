@@ -1,5 +1,8 @@
 #include "platform/controls/pictures/Drawing.h"
 
+#include "platform/controls/pictures/PaintedPicture.h"
+#include "platform/controls/pictures/PictureFile.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -18,22 +21,37 @@ void Drawing::set(const QString &name)
     m_renderer.reset();
 }
 
+void Drawing::setWords(const QSizeF &ground, const std::vector<PictureWords> &words)
+{
+    m_ground = ground;
+    m_words = words;
+}
+
 void Drawing::paint(QPainter &painter, const QRectF &room)
 {
     if (!isSet()) return;
+    paintGround(painter, room);
+    if (!m_words.empty()) paintWords(painter, room);
+}
+
+void Drawing::paintGround(QPainter &painter, const QRectF &room)
+{
+    const QSizeF pixels = painter.deviceTransform().mapRect(room).size();
+    if (const QImage picture = paintedPicture(m_name, pixels.toSize()); !picture.isNull()) {
+        painter.drawImage(room, picture);
+        return;
+    }
     if (!m_renderer) {
-        m_renderer = std::make_unique<QSvgRenderer>(QStringLiteral(":/pictures/%1.svg").arg(m_name));
+        m_renderer = std::make_unique<QSvgRenderer>(pictureFile(m_name));
         m_renderer->setAspectRatioMode(Qt::KeepAspectRatio);
     }
     m_renderer->render(&painter, room);
-    paintWords(painter, room);
 }
 
 void Drawing::paintWords(QPainter &painter, const QRectF &room) const
 {
-    const QSizeF size = m_renderer->defaultSize();
-    const double scale = std::min(room.width() / size.width(), room.height() / size.height());
-    const QPointF corner = room.center() - QPointF(size.width(), size.height()) * scale / 2;
+    const double scale = std::min(room.width() / m_ground.width(), room.height() / m_ground.height());
+    const QPointF corner = room.center() - QPointF(m_ground.width(), m_ground.height()) * scale / 2;
     QFont font = painter.font();
     for (const PictureWords &words : m_words) {
         font.setPixelSize(std::max(1, qRound(words.size * scale)));

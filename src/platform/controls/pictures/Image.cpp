@@ -16,9 +16,9 @@ void Image::setPicture(const QString &name)
     m_view.setPicture(name);
 }
 
-void Image::setWords(const std::vector<PictureWords> &words)
+void Image::setWords(const QSizeF &ground, const std::vector<PictureWords> &words)
 {
-    m_view.setWords(words);
+    m_view.setWords(ground, words);
 }
 
 } // namespace orvane

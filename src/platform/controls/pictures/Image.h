@@ -19,7 +19,7 @@ public:
     Image(Container &parent, const QString &name);
 
     void setPicture(const QString &name); // a file under pictures/, without its ending
-    void setWords(const std::vector<PictureWords> &words);
+    void setWords(const QSizeF &ground, const std::vector<PictureWords> &words);
 
 signals:
     void Click();

@@ -14,9 +14,9 @@ void PictureView::setPicture(const QString &name)
     update();
 }
 
-void PictureView::setWords(const std::vector<PictureWords> &words)
+void PictureView::setWords(const QSizeF &ground, const std::vector<PictureWords> &words)
 {
-    m_drawing.setWords(words);
+    m_drawing.setWords(ground, words);
     m_ahead = {};
     update();
 }

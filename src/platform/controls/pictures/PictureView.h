@@ -18,7 +18,7 @@ public:
     using QWidget::QWidget;
 
     void setPicture(const QString &name); // a file under pictures/, without its ending
-    void setWords(const std::vector<PictureWords> &words);
+    void setWords(const QSizeF &ground, const std::vector<PictureWords> &words);
 
     const PictureObject &pixels() const { return m_pixels; }
     void setPixels(const PictureObject &picture);
