@@ -2,7 +2,7 @@
 // its own, on a display of the test.
 #pragma once
 
-#include "faults/PrivateDisplay.h"
+#include "support/PrivateDisplay.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

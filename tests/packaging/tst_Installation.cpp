@@ -1,6 +1,6 @@
 // What the build installs: every file in its place, and programs that run from there without writing there.
-#include "faults/PrivateDisplay.h"
 #include "packaging/InstalledTree.h"
+#include "support/PrivateDisplay.h"
 
 #include <QFile>
 #include <QImage>

@@ -52,8 +52,8 @@ void end(std::unique_ptr<QProcess> &process)
 
 QString SpokenDesktop::missingProgram()
 {
-    for (const QString &name : {u"Xvfb"_s, u"openbox"_s, u"dbus-daemon"_s})
-        if (QStandardPaths::findExecutable(name).isEmpty()) return name;
+    if (const QString missing = PrivateDisplay::missingProgram(); !missing.isEmpty()) return missing;
+    if (QStandardPaths::findExecutable(u"dbus-daemon"_s).isEmpty()) return u"dbus-daemon"_s;
     return launcherFile().isEmpty() ? u"at-spi-bus-launcher"_s : QString();
 }
 
@@ -70,6 +70,7 @@ SpokenDesktop::SpokenDesktop() : m_environment(QProcessEnvironment::systemEnviro
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         m_environment.insert(name, folder);
     }
+    m_environment.insert(u"DISPLAY"_s, m_display.name());
     m_environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
     m_environment.insert(u"GSETTINGS_BACKEND"_s, u"memory"_s);
 }
@@ -81,8 +82,6 @@ SpokenDesktop::~SpokenDesktop()
     QDBusConnection::disconnectFromBus(AccessName);
     QDBusConnection::disconnectFromBus(SessionName);
     end(m_sessionBus);
-    end(m_windowManager);
-    end(m_display);
 }
 
 bool SpokenDesktop::failed(const QString &problem)
@@ -102,24 +101,7 @@ std::unique_ptr<QProcess> SpokenDesktop::newProcess(const QString &name, const Q
 
 bool SpokenDesktop::start()
 {
-    return startDisplay() && startWindowManager() && startSessionBus() && startAccessibilityBus();
-}
-
-// The display takes a number that is free and tells it.
-bool SpokenDesktop::startDisplay()
-{
-    m_display = newProcess(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1280x1024x24"_s, u"-nolisten"_s,
-                                       u"tcp"_s, u"-noreset"_s});
-    const QString number = firstLine(*m_display);
-    if (number.isEmpty()) return failed(u"no display: "_s + QString::fromLocal8Bit(m_display->readAllStandardError()));
-    m_environment.insert(u"DISPLAY"_s, u':' + number);
-    return true;
-}
-
-bool SpokenDesktop::startWindowManager()
-{
-    m_windowManager = newProcess(u"openbox"_s, {u"--sm-disable"_s});
-    return m_windowManager->waitForStarted(MillisecondsToStart) || failed(u"no window manager"_s);
+    return startSessionBus() && startAccessibilityBus();
 }
 
 bool SpokenDesktop::startSessionBus()

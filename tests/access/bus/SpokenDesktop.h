@@ -1,8 +1,9 @@
-// A desktop of the test's own for the real program: a virtual display with a window manager, a session bus, and an
-// accessibility bus on which somebody listens. All of it ends with the test; that of the machine is left alone.
+// A desktop of the test's own for the real program: a display, a session bus, and an accessibility bus on which
+// somebody listens. All of it ends with the test; that of the machine is left alone.
 #pragma once
 
 #include "access/bus/Spoken.h"
+#include "support/PrivateDisplay.h"
 
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -34,8 +35,6 @@ public:
     Spoken program() const; // with its windows; without role where it isn't on the bus
 
 private:
-    bool startDisplay();
-    bool startWindowManager();
     bool startSessionBus();
     bool startAccessibilityBus();
     bool failed(const QString &problem);
@@ -43,8 +42,7 @@ private:
 
     QTemporaryDir m_folder;
     QProcessEnvironment m_environment;
-    std::unique_ptr<QProcess> m_display;
-    std::unique_ptr<QProcess> m_windowManager;
+    PrivateDisplay m_display{{1280, 1024}};
     std::unique_ptr<QProcess> m_sessionBus;
     std::unique_ptr<QProcess> m_program;
     std::optional<AccessBus> m_bus;

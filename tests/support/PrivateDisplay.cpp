@@ -1,4 +1,4 @@
-#include "faults/PrivateDisplay.h"
+#include "support/PrivateDisplay.h"
 
 #include <QRegularExpression>
 #include <QStandardPaths>
