@@ -44,7 +44,10 @@ public:
     std::optional<int> exitCode(); // nothing where the program crashed too
 
 private:
-    std::optional<ShownWindow> shown(const std::function<bool(const ShownWindow &)> &isIt) const;
+    using Which = std::function<bool(const ShownWindow &)>;
+
+    std::optional<ShownWindow> find(const Which &isIt) const;
+    std::optional<ShownWindow> shown(const Which &isIt) const; // waits for it
 
     const PrivateDisplay &m_display;
     QTemporaryDir m_folder;

@@ -119,6 +119,9 @@ void tst_BuiltPrograms::everySourceIsCompiledSo()
 // Only QProcess starts a program, and it does so without a shell. The print service's library is opened by the toolkit.
 void tst_BuiltPrograms::theProgramKnowsNoNetworkAndNoShell()
 {
+#ifdef ORVANE_COUNTED
+    QSKIP("what counts the lines calls functions of its own");
+#endif
     const QStringList called = calls(u"orvane"_s);
     QVERIFY(called.size() > 500);
     for (const QString &name :
