@@ -55,7 +55,7 @@ QList<RtfTab> normalTabs(const RtfParagraph &paragraph)
     QList<RtfTab> tabs = paragraph.tabs;
     std::stable_sort(tabs.begin(), tabs.end(), [](auto &a, auto &b) { return a.position < b.position; });
     const auto last = std::unique(tabs.begin(), tabs.end(), [](auto &a, auto &b) { return a.position == b.position; });
-    tabs.erase(last, tabs.end());
+    tabs.resize(last - tabs.begin());
     if (hasImpliedTab(paragraph)) tabs.removeOne(RtfTab{paragraph.left, QTextOption::LeftTab});
     return tabs;
 }
@@ -66,7 +66,7 @@ QList<QTextOption::Tab> toTabs(const RtfParagraph &normal)
     const auto place = std::lower_bound(all.begin(), all.end(), normal.left,
                                         [](const RtfTab &tab, int left) { return tab.position < left; });
     if (hasImpliedTab(normal) && (place == all.end() || place->position != normal.left))
-        all.insert(place, RtfTab{normal.left, QTextOption::LeftTab});
+        all.insert(place - all.begin(), RtfTab{normal.left, QTextOption::LeftTab});
     QList<QTextOption::Tab> tabs;
     for (const RtfTab &tab : all)
         tabs.append(QTextOption::Tab(pixelsOfTwips(tab.position - tabOrigin(normal)), tab.type, u'.'));

@@ -155,8 +155,9 @@ std::optional<Fields> fieldsOf(const QList<Part> &parts)
 // The letters d, M and y in the order that the locale's short form has them in.
 QString localeOrder()
 {
+    const QString format = QLocale().dateFormat(QLocale::ShortFormat);
     QString order;
-    for (const QChar letter : QLocale().dateFormat(QLocale::ShortFormat))
+    for (const QChar letter : format)
         if (u"dMy"_s.contains(letter) && !order.contains(letter)) order += letter;
     return order.size() == 3 ? order : u"dMy"_s;
 }

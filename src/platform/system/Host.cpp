@@ -18,8 +18,13 @@ namespace orvane
 
 namespace
 {
-Host machine;
-Host *current = &machine;
+Host *inItsPlace = nullptr;
+
+Host &machine()
+{
+    static Host host;
+    return host;
+}
 
 QMessageBox::Icon iconOf(int style)
 {
@@ -100,13 +105,13 @@ QString Host::documentsFolder()
 
 Host &host()
 {
-    return *current;
+    return inItsPlace ? *inItsPlace : machine();
 }
 
 Host *setHost(Host *other)
 {
-    Host *before = current;
-    current = other ? other : &machine;
+    Host *before = inItsPlace;
+    inItsPlace = other;
     return before;
 }
 

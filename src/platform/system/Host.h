@@ -52,7 +52,7 @@ public:
 };
 
 Host &host();
-// Sets another host and returns the one before; the caller keeps it alive. nullptr sets the machine's own.
+// Sets another host, which the caller keeps alive, and returns the one before. nullptr is the machine's own, both ways.
 Host *setHost(Host *other);
 
 // A message box; the text alone where no title is given bears the application's.

@@ -171,7 +171,8 @@ void RichEdit::openMenu(const QPoint &place)
 // The toolkit's own would make the letters of a read-only text larger.
 void RichEdit::wheelEvent(QWheelEvent *event)
 {
-    QAbstractScrollArea::wheelEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    QAbstractScrollArea::wheelEvent(event); // clazy:exclude=skipped-base-method
 }
 
 void RichEdit::showEvent(QShowEvent *event)
