@@ -20,7 +20,7 @@
     packages_access=("${packages_virtual_display[@]}" at-spi2-core dbus)
     packages_check=(fonts-liberation fonts-dejavu-core libqt6sql6-sqlite "${packages_printing[@]}" "${packages_hand[@]}"
         "${packages_access[@]}" mandoc clang-format-14 clang libclang-rt-14-dev)
-    packages_tidy=(clang-tidy)
+    packages_tidy=(clang-tidy clazy)
     # hardening-check is among the scripts for developers.
     packages_package=(dpkg-dev file lintian appstream desktop-file-utils devscripts)
     packages_coverage=(gcovr)

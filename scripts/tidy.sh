@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Looks over source files with clang-tidy: tidy.sh [FILE...], all that the suite's build compiles where none is named.
+# Looks over source files with clang-tidy and clazy: tidy.sh [FILE...], all that the suite's build compiles where none is named.
 set -euo pipefail
 CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/dependencies.sh
@@ -18,11 +18,29 @@ compiled_files() {
     sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$folder/compile_commands.json" | grep -v _autogen/ | sort -u
 }
 
+tidy() {
+    printf '%s\n' "$@" |
+        xargs -d '\n' -n 1 -P "$(nproc)" clang-tidy -p "$folder" --quiet 2> >(grep -v ' generated\.$' >&2)
+}
+
+# Its own findings are what counts: the compiler beneath it isn't the one that the warnings are set for.
+clazy() {
+    local said findings
+    said=$(printf '%s\n' "$@" |
+        xargs -d '\n' -n 1 -P "$(nproc)" clazy-standalone -p "$folder" --checks=level1 --ignore-included-files 2>&1) || true
+    findings=$(grep -A 2 '\[-Wclazy' <<<"$said") || return 0
+    echo "$findings" >&2
+    return 1
+}
+
 main() {
+    local files=("$@") failed=0
     install_packages "${packages_build[@]}" "${packages_tidy[@]}"
     generate
-    if (($#)); then printf '%s\n' "$@"; else compiled_files; fi |
-        xargs -d '\n' -n 1 -P "$(nproc)" clang-tidy -p "$folder" --quiet 2> >(grep -v ' generated\.$' >&2)
+    ((${#files[@]})) || mapfile -t files < <(compiled_files)
+    tidy "${files[@]}" || failed=1
+    clazy "${files[@]}" || failed=1
+    return "$failed"
 }
 
 main "$@"

@@ -171,7 +171,7 @@ public:
 };
 
 // Calls the step as soon as a menu is on show; the event loop of the menu itself runs it.
-inline void onceAMenuIsOpen(QObject &context, std::function<void(QMenu &)> step)
+inline void onceAMenuIsOpen(QObject &context, const std::function<void(QMenu &)> &step)
 {
     auto *watch = new QTimer(&context);
     QObject::connect(watch, &QTimer::timeout, &context, [watch, step] {
