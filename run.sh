@@ -17,7 +17,7 @@ open_program() {
 
 walk() {
     echo "There is no display here, so the tour walks by itself on a virtual one."
-    start_virtual_display
+    start_virtual_display 1280x1024
     "$programs/tourwalk" --out "$PWD/out" # ends with a line of figures
 }
 

@@ -124,7 +124,7 @@ main() {
     [[ -n ${1:-} ]] || build bench
     mkdir -p "$made/office"
     begin_session
-    start_virtual_display
+    start_virtual_display 1280x1024
     printf '%s cores\n' "$(nproc)"
     compare_put
     compare_start

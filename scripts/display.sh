@@ -36,9 +36,9 @@ start() {
     return 1
 }
 
-# start_virtual_display [WIDTHxHEIGHT]: a window is active only where a window manager makes it so.
+# start_virtual_display WIDTHxHEIGHT: a window is active only where a window manager makes it so.
 start_virtual_display() {
-    local size=${1:-1280x1024} first_line=
+    local size=$1 first_line=
     trap stop_virtual_display EXIT
     start Xvfb Xvfb -displayfd 1 -screen 0 "${size}x24" -nolisten tcp -noreset
     unset WAYLAND_DISPLAY XAUTHORITY

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Looks over source files with clang-tidy and clazy: tidy.sh [FILE...], all that the suite's build compiles where none is named.
+# Looks over source files with clang-tidy and clazy: tidy.sh [FILE...], all that the suite's build compiles where none is
+# named.
 set -euo pipefail
 CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/dependencies.sh
