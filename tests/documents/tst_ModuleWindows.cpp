@@ -222,7 +222,7 @@ void tst_ModuleWindows::manyWindowsComeAndGo()
     const auto windows = Forms();
     const auto widgets = QApplication::allWidgets().size();
     const auto objects = system.frame().shell().findChildren<QObject *>().size();
-    for (int i = 1; i <= 30; ++i)
+    for (int i = 1; i <= 200; ++i)
         comeAndGo(i);
     QCOMPARE(Forms(), windows);
     QCOMPARE(QApplication::allWidgets().size(), widgets);
