@@ -23,11 +23,13 @@ namespace
 constexpr int A5Paper = 11;
 constexpr int Pages = 4;
 
-// The test's machine with the print queues of the system.
+// The test's machine with the print queues of the system, which the system's host, past the test's, knows.
 class QueueHost : public TestHost
 {
 public:
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     std::vector<InstalledPrinter> printQueues() override { return Host::printQueues(); }
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     std::unique_ptr<QPrinter> openQueue(const QString &queueName) override { return Host::openQueue(queueName); }
 };
 

@@ -209,7 +209,7 @@ void tst_MovableMemory::overlappingRangesAreMovedWhole()
 {
     const quint32 handle = GlobalAlloc(MovableZeroFilled, Size);
     auto *block = static_cast<char *>(GlobalLock(handle));
-    std::memcpy(block, "abcdef", 6);
+    std::copy_n("abcdef", 6, block);
     RtlMoveMemory(block + 2, block, 6);
     QCOMPARE(QByteArray(block, 8), QByteArray("ababcdef"));
     GlobalFree(handle);

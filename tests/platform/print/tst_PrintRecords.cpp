@@ -35,7 +35,7 @@ void addField(const char *name, const QByteArray &record, int offset, const QByt
 }
 
 #define FEED(Record, field, value, offset, hex)                                                                        \
-    addField(#field, fed<Record>([](Record &record) { record.field = value; }), offset, hex)
+    addField(#field, fed<Record>([](Record &record) { record.field = (value); }), offset, hex)
 } // namespace
 
 class tst_PrintRecords : public QObject

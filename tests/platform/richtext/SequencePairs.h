@@ -28,7 +28,14 @@ public:
 
 private:
     int edits() const { return int(m_reached.size()); }
-    int before(int edits, int k) const { return m_reached[size_t(edits - 1)][size_t(k + edits - 1)]; }
+    int before(int edits, int k) const { return m_reached[size_t(edits - 1)][place(edits - 1, k)]; }
+
+    // Diagonals count from minus the edits on.
+    static size_t place(int edits, int k)
+    {
+        const int fromFirst = k + edits;
+        return size_t(fromFirst);
+    }
 
     bool comesFromAbove(int edits, int k) const
     {
@@ -50,11 +57,11 @@ private:
             int a = start(now, k);
             while (a < m_sizeA && a - k < m_sizeB && m_equal(a, a - k))
                 ++a;
-            furthest[size_t(k + now)] = a;
+            furthest[place(now, k)] = a;
         }
         m_reached.push_back(std::move(furthest));
         const int last = m_sizeA - m_sizeB;
-        return std::abs(last) <= now && (now - last) % 2 == 0 && m_reached.back()[size_t(last + now)] >= m_sizeA;
+        return std::abs(last) <= now && (now - last) % 2 == 0 && m_reached.back()[place(now, last)] >= m_sizeA;
     }
 
     Pairs walkBack() const

@@ -152,8 +152,8 @@ void tst_RtfSurvival::muchOfItStaysWithinBounds_data()
 {
     QTest::addColumn<QString>("body");
     QTest::addColumn<int>("mostCharacters");
-    const int many = 1000000;
-    QTest::newRow("one line") << u"word "_s.repeated(many / 5) << many + 1;
+    const qsizetype many = 1000000;
+    QTest::newRow("one line") << u"word "_s.repeated(many / 5) << int(many) + 1;
     QTest::newRow("opening braces") << u"{"_s.repeated(many) << 1;
     QTest::newRow("closing braces") << u"}"_s.repeated(many) << 1;
     QTest::newRow("empty groups") << u"{}"_s.repeated(many / 2) << 1;

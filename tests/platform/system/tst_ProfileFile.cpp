@@ -14,7 +14,8 @@ using namespace orvane;
 namespace
 {
 
-constexpr qint64 Megabyte = 1024 * 1024;
+constexpr qint64 Megabyte = 1 << 20;
+constexpr qint64 Terabyte = Megabyte << 20;
 constexpr int PieceSize = 64 * 1024;
 
 QString readHeader(const ProfileBytes &file, int size = 1023)
@@ -40,7 +41,7 @@ int readInOwnProcess(const ProfileBytes &file, const QString &expected)
         getrusage(RUSAGE_SELF, &before);
         const bool well = readHeader(file) == expected;
         getrusage(RUSAGE_SELF, &after);
-        const bool small = after.ru_maxrss - before.ru_maxrss < 8 * 1024;
+        const bool small = after.ru_maxrss - before.ru_maxrss < 8 * 1024L;
         _exit(!well ? 1 : small ? 0 : 2);
     }
     int status = 0;
@@ -289,12 +290,12 @@ void tst_ProfileFile::ofAHugeFileOnlyALittleIsKept()
 void tst_ProfileFile::readingStopsAtTheKey()
 {
     const ProfileBytes profile("[127]\nHeader=Step 17\n");
-    QVERIFY(QFile::resize(profile.name(), 1024 * 1024 * Megabyte));
+    QVERIFY(QFile::resize(profile.name(), Terabyte));
     QCOMPARE(readHeader(profile), u"Step 17"_s);
     QVERIFY(QFile::resize(profile.name(), 0));
 
     profile.setBytes("[127]\nRTF=x\n[128]\n");
-    QVERIFY(QFile::resize(profile.name(), 1024 * 1024 * Megabyte));
+    QVERIFY(QFile::resize(profile.name(), Terabyte));
     QCOMPARE(readHeader(profile), u"(none)"_s);
 }
 

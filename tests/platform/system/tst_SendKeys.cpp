@@ -29,7 +29,7 @@ protected:
 private:
     static QString spelt(const QKeyEvent &event)
     {
-        return QKeySequence(event.key() | event.modifiers()).toString(QKeySequence::PortableText) +
+        return QKeySequence(event.keyCombination()).toString(QKeySequence::PortableText) +
                (event.text().isEmpty() ? QString() : u" \""_s + event.text() + u'"');
     }
 };
