@@ -11,7 +11,7 @@ folder=build/tidy
 generate() {
     mkdir -p "$folder"
     cmake --preset debug -B "$folder" -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >"$folder/configure.log"
-    ninja -C "$folder" -t targets all | sed -n 's/_autogen: phony$/_autogen/p' |
+    ninja -C "$folder" -t targets all | sed -En 's/^(.*_autogen): phony$|^(.*\.moc): CUSTOM_COMMAND$/\1\2/p' |
         xargs cmake --build "$folder" --target >"$folder/generate.log"
 }
 
