@@ -1,7 +1,7 @@
 # Compiler cache, fast linker, warnings, sanitizers and coverage: one place for the whole tree.
 
 find_program(ORVANE_CCACHE ccache)
-if(ORVANE_CCACHE)
+if(ORVANE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     # The precompiled header's time stamps differ in every clone; the cache looks at its content instead. What a source
     # includes is taken from the compiler's own list, which saves a run of the preprocessor.
     set(CMAKE_CXX_COMPILER_LAUNCHER
@@ -19,7 +19,10 @@ if(ORVANE_MOLD AND NOT ORVANE_FUZZ)
     add_link_options(-fuse-ld=mold)
 endif()
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual)
+if(NOT DEFINED CMAKE_COMPILE_WARNING_AS_ERROR)
+    set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
+endif()
 add_compile_definitions(
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
     QT_NO_CONTEXTLESS_CONNECT QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
