@@ -136,8 +136,7 @@ void tst_frmAbout::theCaptionNamesTheProgram()
 
 void tst_frmAbout::theVersionHasTwoNumbers()
 {
-    const QString version = u"Version %1.%2"_s.arg(App().Major()).arg(App().Minor());
-    QCOMPARE(about().lblVersion.Caption(), version);
+    QCOMPARE(about().lblVersion.Caption(), QStringLiteral("Version " ORVANE_VERSION));
 }
 
 void tst_frmAbout::okUnloadsTheWindow()

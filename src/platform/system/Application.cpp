@@ -5,6 +5,16 @@
 namespace orvane
 {
 
+int Application::Major() const
+{
+    return ORVANE_VERSION_MAJOR;
+}
+
+int Application::Minor() const
+{
+    return ORVANE_VERSION_MINOR;
+}
+
 QString Application::Path() const
 {
     return host().programFolder();

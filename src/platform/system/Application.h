@@ -9,8 +9,8 @@ namespace orvane
 class Application
 {
 public:
-    int Major() const { return 1; }
-    int Minor() const { return 0; }
+    int Major() const; // of the version
+    int Minor() const;
     QString Title() const { return QStringLiteral("orvane Quillmark CD"); }
     QString Path() const; // the program's folder, without a separator at its end
     const QString &HelpFile() const { return m_helpFile; }
