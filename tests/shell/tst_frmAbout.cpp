@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QKeyEvent>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -79,6 +80,7 @@ private slots:
     void otherKeysShowNoCredits_data();
     void otherKeysShowNoCredits();
     void pressingTheKeysAloneShowsNoCredits();
+    void holdingTheKeysDownShowsNoCredits();
 
 private:
     QString inFolder(const QString &name) const { return m_folder->filePath(name); }
@@ -341,6 +343,21 @@ void tst_frmAbout::pressingTheKeysAloneShowsNoCredits()
     show();
     QTest::keyPress(&about().shell(), Qt::Key_A, Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
     QVERIFY(m_system->host.messages().empty());
+}
+
+void tst_frmAbout::holdingTheKeysDownShowsNoCredits()
+{
+    show();
+    const Qt::KeyboardModifiers all = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
+    QTest::keyPress(&about().shell(), Qt::Key_A, all);
+    for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent repeated(type, Qt::Key_A, all, QString(), true);
+        QCoreApplication::sendEvent(&about().shell(), &repeated);
+        QVERIFY(m_system->host.messages().empty());
+    }
+    m_system->host.expectAnyMessage();
+    QTest::keyRelease(&about().shell(), Qt::Key_A, all);
+    QCOMPARE(m_system->host.messages().size(), 1U);
 }
 
 QTEST_MAIN(tst_frmAbout)

@@ -103,8 +103,10 @@ void Form::keyPressed(const QKeyEvent &event)
     if (ascii != 0 && m_loaded) Form_KeyPress(ascii);
 }
 
+// A key that is held down tells of a release before each of its repeats.
 void Form::keyReleased(const QKeyEvent &event)
 {
+    if (event.isAutoRepeat()) return;
     Form_KeyUp(keyCodeOf(event), shiftStateOf(event));
 }
 

@@ -29,6 +29,7 @@ private slots:
     void enterPressesTheDefaultButtonAndReachesNoHandler();
     void escapePressesTheCancelButton();
     void aKeyHeldDownPressesNothing();
+    void aKeyHeldDownIsNotReleased();
 
 private:
     std::unique_ptr<NotedWindow> m_window;
@@ -223,6 +224,23 @@ void tst_FormKeys::aKeyHeldDownPressesNothing()
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, true);
     QCoreApplication::sendEvent(&m_window->shell(), &held);
     QCOMPARE(clicks, 0);
+}
+
+// While it is down the window system tells of a release before each of its repeats.
+void tst_FormKeys::aKeyHeldDownIsNotReleased()
+{
+    const auto send = [this](QEvent::Type type, bool repeated) {
+        QKeyEvent event(type, Qt::Key_A, {}, u"a"_s, repeated);
+        QCoreApplication::sendEvent(&m_window->shell(), &event);
+    };
+    send(QEvent::KeyPress, false);
+    for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress})
+        send(type, true);
+    const QStringList held{u"frmPlain KeyDown 65 0"_s, u"frmPlain KeyPress 97"_s, u"frmPlain KeyDown 65 0"_s,
+                           u"frmPlain KeyPress 97"_s};
+    QCOMPARE(eventLog(), held);
+    send(QEvent::KeyRelease, false);
+    QCOMPARE(eventLog(), held + QStringList(u"frmPlain KeyUp 65 0"_s));
 }
 
 QTEST_MAIN(tst_FormKeys)
