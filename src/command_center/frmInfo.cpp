@@ -60,6 +60,12 @@ void frmInfo::Form_Load()
     Timer1.setEnabled(true);
 }
 
+// The ways out bring the system up, and nothing else could: the user can't close the intro.
+void frmInfo::Form_QueryUnload(bool &cancel, int mode)
+{
+    if (mode == ByUser) cancel = true;
+}
+
 void frmInfo::Form_Unload(bool &)
 {
     Timer1.setEnabled(false);

@@ -21,6 +21,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_QueryUnload(bool &cancel, int mode) override;
     void Form_Unload(bool &cancel) override;
     void Form_KeyPress(int keyAscii) override;
 

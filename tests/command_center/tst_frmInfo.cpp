@@ -68,6 +68,7 @@ private slots:
     void otherKeysDoNothing();
     void otherMouseButtonsDoNothing();
     void aMouseThatIsDrawnOffTheButtonDoesNothing();
+    void theUserCannotCloseIt();
 
     void theConsoleStandsInThePanelsCorner_data();
     void theConsoleStandsInThePanelsCorner();
@@ -278,6 +279,20 @@ void tst_frmInfo::aMouseThatIsDrawnOffTheButtonDoesNothing()
     QTest::mousePress(&button, Qt::LeftButton, {}, QPoint(5, 5));
     QTest::mouseRelease(&button, Qt::LeftButton, {}, QPoint(5, button.height() + 40));
     QVERIFY(introIsUp());
+}
+
+// As by Alt+F4 or from a list of windows. It would take the way into the system with it.
+void tst_frmInfo::theUserCannotCloseIt()
+{
+    m_system->showSplash();
+    QVERIFY(!intro().shell().close());
+    QVERIFY(introIsUp());
+    QVERIFY(intro().Timer1.Enabled());
+    QVERIFY(!m_system->frame().Visible());
+    m_system->host.advance(45000);
+    QCOMPARE(countWindows(u"frmInfo"_s), 0);
+    QVERIFY(m_system->frame().Visible());
+    QVERIFY(console().Visible());
 }
 
 void tst_frmInfo::theConsoleStandsInThePanelsCorner_data()
