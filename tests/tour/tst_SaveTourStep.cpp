@@ -89,6 +89,8 @@ private slots:
     void lineEndsAndFormFeedsAreDropped();
     void aBodyOfSeveralLinesIsOneLineInTheFile();
     void aHeadingOutsideThePageIsSubstituted();
+    void aHeadingKeepsItsHardBlanks();
+    void aHeadingKeepsItsFormFeed();
     void aBodyOutsideThePageComesBack();
     void aBodyBeyondTheReadersLimitIsSavedWhole();
     void aFileWithoutRightsStaysAndNothingIsReported();
@@ -240,6 +242,24 @@ void tst_SaveTourStep::aHeadingOutsideThePageIsSubstituted()
     console().Header.setText(u"a \u20AC \u00E9 \u2013 \u0416 z"_s);
     SaveTourStep(u"127"_s);
     QVERIFY(file().endsWith("Header=a \x80 \xE9 \x96 ? z\r\n"));
+}
+
+void tst_SaveTourStep::aHeadingKeepsItsHardBlanks()
+{
+    write(section("127", line("Header", "5\xA0m")));
+    ShowTourStep(u"127"_s);
+    QCOMPARE(console().Header.Text(), u"5\u00A0m"_s);
+    SaveTourStep(u"127"_s);
+    QVERIFY(file().contains(line("Header", "5\xA0m")));
+}
+
+// Only the body is cleaned.
+void tst_SaveTourStep::aHeadingKeepsItsFormFeed()
+{
+    write({});
+    console().Header.setText(u"a\fb"_s);
+    SaveTourStep(u"127"_s);
+    QVERIFY(file().endsWith("Header=a\fb\r\n"));
 }
 
 void tst_SaveTourStep::aBodyOutsideThePageComesBack()

@@ -55,6 +55,7 @@ private slots:
     void putPlainTextReplacesTheDocument();
     void richTextIsPutInThePlaceOfTheSelection();
     void textAndSelectionCountTheSameCharacters();
+    void hardBlanksAreKept();
     void aSelectionIsKeptWithinTheText();
     void lockedRefusesTyping_data();
     void lockedRefusesTyping();
@@ -185,6 +186,14 @@ void tst_RichTextBox::textAndSelectionCountTheSameCharacters()
         QCOMPARE(box().SelStart(), start);
         QCOMPARE(box().SelLength(), int(word.size()));
     }
+}
+
+void tst_RichTextBox::hardBlanksAreKept()
+{
+    box().setTextRTF(u"{\\rtf1 5\\~m\\line x\\par y}"_s);
+    QCOMPARE(box().Text(), u"5\u00A0m\nx\ny"_s);
+    box().setText(u"5\u00A0m \uFFFC\u2028\u2029\uFDD0z"_s);
+    QCOMPARE(box().Text(), u"5\u00A0m \uFFFC\n\n\nz"_s);
 }
 
 void tst_RichTextBox::aSelectionIsKeptWithinTheText()

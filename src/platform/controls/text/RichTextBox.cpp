@@ -1,5 +1,6 @@
 #include "platform/controls/text/RichTextBox.h"
 
+#include "platform/controls/text/DocumentText.h"
 #include "platform/controls/text/RichEdit.h"
 #include "platform/richtext/Rtf.h"
 #include "platform/system/RunTimeError.h"
@@ -60,7 +61,7 @@ void RichTextBox::setSelRTF(const QString &rtf)
 
 QString RichTextBox::Text() const
 {
-    return m_edit.toPlainText();
+    return textOf(*m_edit.document());
 }
 
 void RichTextBox::setText(const QString &text)

@@ -1,6 +1,7 @@
 #include "platform/controls/text/TextBox.h"
 
 #include "platform/controls/CaptionFont.h"
+#include "platform/controls/text/DocumentText.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -62,7 +63,7 @@ bool TextBox::eventFilter(QObject *watched, QEvent *event)
 QString TextBox::Text() const
 {
     if (m_line) return m_line->text();
-    return m_lines->toPlainText().replace(u'\n', QStringLiteral("\r\n"));
+    return textOf(*m_lines->document()).replace(u'\n', QStringLiteral("\r\n"));
 }
 
 void TextBox::setText(const QString &text)
