@@ -1,5 +1,6 @@
 // The ways between the states of the two windows with versions: from each state by each thing that can happen there.
 #include "documents/VersionStates.h"
+#include "platform/text/RichBoxFixture.h"
 
 #include <QLocale>
 #include <QMdiSubWindow>
@@ -102,6 +103,8 @@ private slots:
     void anEventLeadsToItsState();
     void aKeyMakesItDirty_data();
     void aKeyMakesItDirty();
+    void whatIsComposedMakesItDirty_data();
+    void whatIsComposedMakesItDirty();
     void aClosedWindowComesBackAsMaster_data();
     void aClosedWindowComesBackAsMaster();
 
@@ -216,6 +219,27 @@ void tst_VersionTransitions::aKeyMakesItDirty()
     QVERIFY(stateOf(open) == (from == From::Own ? OwnClean : OwnDirty));
     QTest::keyClicks(&control.widget(), u"x"_s);
     QVERIFY(stateOf(open) == OwnDirty);
+}
+
+void tst_VersionTransitions::whatIsComposedMakesItDirty_data()
+{
+    addSisters();
+}
+
+// By an input method, or by a dead key and a letter.
+void tst_VersionTransitions::whatIsComposedMakesItDirty()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    for (const QString &where : {u"txtIssue"_s, u"txtDate"_s, u"txtAuthorized"_s, u"rtfData"_s}) {
+        open.toOwn();
+        QVERIFY(stateOf(open) == OwnClean);
+        Control &control = *open.window->control(where);
+        control.SetFocus();
+        compose(control.widget(), u"\u00E9"_s);
+        QVERIFY2(stateOf(open) == OwnDirty, qPrintable(where));
+        open.toOwn();
+    }
 }
 
 void tst_VersionTransitions::aClosedWindowComesBackAsMaster_data()

@@ -7,6 +7,7 @@
 #include "shell/ShellProbes.h"
 #include "shell/frmProperties.h"
 
+#include <QMenu>
 #include <functional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -26,6 +27,19 @@ void pressKeys(const VersionedSystem &open, QKeyCombination keys)
 void chooseEdit(const VersionedSystem &open, const QString &tool)
 {
     open.system.clickTool(open.system.frame(), u"mnuMain"_s, u"mnuEdit"_s, tool);
+}
+
+void typeInDate(const VersionedSystem &open, const QString &text)
+{
+    open.toOwn();
+    open.type(open.window->txtDate, text);
+}
+
+// By its keys; nullptr where none comes up.
+QMenu *openEditMenu()
+{
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_E, Qt::AltModifier);
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
 // A tool of the bar that bears this caption and no number.
@@ -60,6 +74,13 @@ private slots:
     void aCloseToolThatReportsNothingUnloadsAlone_data() { addSisters(); }
     void aCloseToolThatReportsNothingUnloadsAlone();
     void aKeyWithoutCharacterCountsInTheDateAlone();
+    void undoFromTheMenuMakesItDirty();
+    void theDateStaysAsTypedUnderAnOpenMenu_data() { addSisters(); }
+    void theDateStaysAsTypedUnderAnOpenMenu();
+    void undoByTheMenusKeysTakesTheTypedDateBack_data() { addSisters(); }
+    void undoByTheMenusKeysTakesTheTypedDateBack();
+    void theDateGetsLongByWayOfTheMenuBar_data() { addSisters(); }
+    void theDateGetsLongByWayOfTheMenuBar();
     void whatWasSavedIsLostAtTheSwitch();
     void aPageChangeInMasterResetsTheFieldsOfTheManual_data() { addSisters(); }
     void aPageChangeInMasterResetsTheFieldsOfTheManual();
@@ -167,6 +188,69 @@ void tst_Versions::aKeyWithoutCharacterCountsInTheDateAlone()
     open.window->txtDate.SetFocus();
     QTest::keyClick(&open.window->txtDate.widget(), Qt::Key_Left);
     QVERIFY(stateOf(open) == OwnDirty);
+}
+
+void tst_Versions::undoFromTheMenuMakesItDirty()
+{
+    const VersionedSystem open(Sister::Procedures);
+    open.toOwn();
+    for (TextBox *box : {&open.window->txtIssue, &open.window->txtAuthorized}) {
+        const QString before = box->Text();
+        open.type(*box, u"2b"_s);
+        open.pressLink(u"Save"_s);
+        QVERIFY(stateOf(open) == OwnClean);
+        QVERIFY(box->widget().hasFocus());
+        chooseEdit(open, u"miUndo"_s);
+        QCOMPARE(box->Text(), before);
+        QVERIFY(stateOf(open) == OwnDirty);
+        open.pressLink(u"Save"_s);
+    }
+}
+
+void tst_Versions::theDateStaysAsTypedUnderAnOpenMenu()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    typeInDate(open, u"2001/02/03"_s);
+    QMenu *edit = openEditMenu();
+    QVERIFY(edit);
+    QCOMPARE(open.window->txtDate.Text(), u"2001/02/03"_s);
+    QTest::keyClick(edit, Qt::Key_Escape);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); // leaves the bar too
+    QVERIFY(open.window->txtDate.widget().hasFocus());
+    QCOMPARE(open.window->txtDate.Text(), u"2001/02/03"_s);
+    open.window->txtIssue.SetFocus();
+    QCOMPARE(open.window->txtDate.Text(), u"February 3, 2001"_s);
+}
+
+void tst_Versions::undoByTheMenusKeysTakesTheTypedDateBack()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    typeInDate(open, u"2001/02/03"_s);
+    QMenu *edit = openEditMenu();
+    QVERIFY(edit && edit->activeAction());
+    QCOMPARE(edit->activeAction()->objectName(), u"miUndo"_s);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QVERIFY(open.window->txtDate.widget().hasFocus());
+    QCOMPARE(open.window->txtDate.Text(), u"1999/03/31"_s);
+}
+
+// From the menu the user goes straight to another field.
+void tst_Versions::theDateGetsLongByWayOfTheMenuBar()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    typeInDate(open, u"2001/02/03"_s);
+    QMenu *edit = openEditMenu();
+    QVERIFY(edit);
+    QTest::keyClick(edit, Qt::Key_Escape);
+    QVERIFY(!open.window->txtDate.widget().hasFocus());
+    open.system.click(open.window->txtAuthorized);
+    QVERIFY(open.window->txtAuthorized.widget().hasFocus());
+    QCOMPARE(open.window->txtDate.Text(), u"February 3, 2001"_s);
+    open.system.click(open.window->txtDate);
+    QCOMPARE(open.window->txtDate.Text(), u"2001/02/03"_s);
 }
 
 void tst_Versions::whatWasSavedIsLostAtTheSwitch()

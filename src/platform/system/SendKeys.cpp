@@ -39,12 +39,21 @@ int namedKey(const QString &name)
     return found == named.end() ? 0 : found->second;
 }
 
+// What a keyboard gives with the key: Ctrl makes a letter its control character.
+QString textOf(QChar sign, Qt::KeyboardModifiers modifiers)
+{
+    constexpr int LetterBits = 0x1F;
+    if (modifiers & Qt::AltModifier) return {};
+    const QChar upper = sign.toUpper();
+    if (!(modifiers & Qt::ControlModifier)) return modifiers & Qt::ShiftModifier ? upper : sign;
+    return upper >= u'A' && upper <= u'Z' ? QChar(upper.unicode() & LetterBits) : QString();
+}
+
 Stroke strokeOf(const QString &name, Qt::KeyboardModifiers modifiers)
 {
     if (name.size() > 1) return {namedKey(name), modifiers, {}};
-    const bool typed = !(modifiers & (Qt::ControlModifier | Qt::AltModifier));
-    const QString text = modifiers & Qt::ShiftModifier ? name.toUpper() : name;
-    return {name.at(0).toUpper().unicode(), modifiers, typed ? text : QString()};
+    const QChar sign = name.at(0);
+    return {sign.toUpper().unicode(), modifiers, textOf(sign, modifiers)};
 }
 
 Qt::KeyboardModifier modifierOf(QChar mark)

@@ -6,6 +6,9 @@
 #include "platform/controls/SSRibbon.h"
 #include "platform/controls/pictures/Image.h"
 #include "platform/controls/text/TextBox.h"
+#include "platform/text/RichBoxFixture.h"
+
+#include <QMenuBar>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
@@ -82,8 +85,15 @@ private slots:
     void aLockedBoxRefusesTyping_data();
     void aLockedBoxRefusesTyping();
     void aBoxTellsOfEachChange();
+    void aBoxKeepsItsHardBlanks_data();
+    void aBoxKeepsItsHardBlanks();
     void aBoxTellsOfItsKeys();
+    void aBoxTellsOfWhatIsComposed_data();
+    void aBoxTellsOfWhatIsComposed();
     void aBoxTellsOfTheFocus();
+    void aBoxKeepsTheFocusWhileTheMenuBarHasIt_data();
+    void aBoxKeepsTheFocusWhileTheMenuBarHasIt();
+    void aBoxLosesTheFocusByWayOfTheMenuBar();
     void tabGoesFromControlToControlAsSet();
 
 private:
@@ -317,6 +327,19 @@ void tst_Buttons::aBoxOfManyLinesReadsEveryLineEnd()
     QCOMPARE(box.Text(), u"one\r\ntwo\r\nthree\r\nfour"_s);
 }
 
+void tst_Buttons::aBoxKeepsItsHardBlanks_data()
+{
+    aLockedBoxRefusesTyping_data();
+}
+
+void tst_Buttons::aBoxKeepsItsHardBlanks()
+{
+    QFETCH(int, lines);
+    TextBox box(*m_window, u"txt"_s, static_cast<TextBox::Lines>(lines));
+    box.setText(u"5\u00A0m \uFFFC"_s);
+    QCOMPARE(box.Text(), u"5\u00A0m \uFFFC"_s);
+}
+
 void tst_Buttons::aLockedBoxRefusesTyping_data()
 {
     QTest::addColumn<int>("lines");
@@ -364,6 +387,27 @@ void tst_Buttons::aBoxTellsOfItsKeys()
     QCOMPARE(events, (QStringList{u"press 97 "_s, u"up a"_s, u"press 8 a"_s, u"up "_s, u"up "_s}));
 }
 
+void tst_Buttons::aBoxTellsOfWhatIsComposed_data()
+{
+    aLockedBoxRefusesTyping_data();
+}
+
+// A composition that goes on stands for no character yet.
+void tst_Buttons::aBoxTellsOfWhatIsComposed()
+{
+    QFETCH(int, lines);
+    TextBox box(*m_window, u"txt"_s, static_cast<TextBox::Lines>(lines));
+    QStringList events;
+    connect(&box, &TextBox::KeyPress, this,
+            [&](int keyAscii) { events += u"press %1 %2"_s.arg(keyAscii).arg(box.Text()); });
+    QInputMethodEvent composing(u"n"_s, {});
+    QCoreApplication::sendEvent(&box.widget(), &composing);
+    QCOMPARE(events, QStringList());
+    compose(box.widget(), u"n\u00E9"_s);
+    QCOMPARE(events, (QStringList{u"press 110 "_s, u"press 233 "_s}));
+    QCOMPARE(box.Text(), u"n\u00E9"_s);
+}
+
 void tst_Buttons::aBoxTellsOfTheFocus()
 {
     TextBox date(*m_window, u"txtDate"_s);
@@ -379,7 +423,62 @@ void tst_Buttons::aBoxTellsOfTheFocus()
     date.SetFocus();
     QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason); // another window comes to the front
     QCoreApplication::sendEvent(&date.widget(), &away);
+    for (const auto type : {QEvent::FocusOut, QEvent::FocusIn}) { // a menu is opened by keys and closed
+        QFocusEvent menu(type, Qt::MenuBarFocusReason);
+        QCoreApplication::sendEvent(&date.widget(), &menu);
+    }
     QCOMPARE(events, (QStringList{u"got"_s, u"lost"_s, u"got"_s}));
+}
+
+void tst_Buttons::aBoxKeepsTheFocusWhileTheMenuBarHasIt_data()
+{
+    QTest::addColumn<Qt::FocusReason>("back");
+    QTest::newRow("Escape") << Qt::MenuBarFocusReason;
+    QTest::newRow("a click into the box") << Qt::MouseFocusReason;
+}
+
+void tst_Buttons::aBoxKeepsTheFocusWhileTheMenuBarHasIt()
+{
+    QFETCH(Qt::FocusReason, back);
+    TextBox date(*m_window, u"txtDate"_s);
+    QMenuBar bar(&m_window->surface());
+    showActive(*m_window);
+    date.SetFocus();
+    QStringList events;
+    connect(&date, &TextBox::GotFocus, this, [&] { events += u"got"_s; });
+    connect(&date, &TextBox::LostFocus, this, [&] { events += u"lost"_s; });
+    bar.setFocus(Qt::MenuBarFocusReason);
+    QVERIFY(bar.hasFocus());
+    date.widget().setFocus(back);
+    QCOMPARE(events, QStringList());
+    m_window->one.SetFocus();
+    QCOMPARE(events, QStringList(u"lost"_s));
+}
+
+// Not while the focus is in another window: the box gets it back from there.
+void tst_Buttons::aBoxLosesTheFocusByWayOfTheMenuBar()
+{
+    TextBox date(*m_window, u"txtDate"_s);
+    QMenuBar bar(&m_window->surface());
+    NotedWindow other(u"frmOther"_s);
+    const SSCommand command(other, u"cmd"_s);
+    showActive(*m_window);
+    date.SetFocus();
+    int lost = 0;
+    connect(&date, &TextBox::LostFocus, this, [&] { ++lost; });
+    bar.setFocus(Qt::MenuBarFocusReason);
+    showActive(other);
+    command.widget().setFocus();
+    QVERIFY(command.widget().hasFocus());
+    showActive(*m_window);
+    m_window->SetFocus();
+    QTRY_VERIFY(bar.hasFocus());
+    QCOMPARE(lost, 0);
+    m_window->one.widget().setFocus(Qt::MouseFocusReason);
+    QCOMPARE(lost, 1);
+    date.SetFocus();
+    m_window->one.SetFocus();
+    QCOMPARE(lost, 2);
 }
 
 void tst_Buttons::tabGoesFromControlToControlAsSet()

@@ -64,6 +64,7 @@ private slots:
     void withoutAFocusTheyGoNowhere();
     void undoIsWorkedWhenTheCallReturns();
     void cutAndPasteAreWorkedWhenTheCallReturns();
+    void aControlCharacterIsPutInNowhere();
     void deleteTakesTheCharacterBehindTheCaret();
     void aKeyGoesOnToTheControlThatTookTheFocus();
     void theyReachTheWindowWhereNoControlHasTheFocus();
@@ -91,9 +92,11 @@ void tst_SendKeys::keysByTheirNotation_data()
     QTest::newRow("nothing") << u""_s << QStringList{};
     QTest::newRow("letter") << u"a"_s << QStringList{u"A \"a\""_s};
     QTest::newRow("letters") << u"ab"_s << QStringList{u"A \"a\""_s, u"B \"b\""_s};
-    QTest::newRow("undo") << u"^{z}"_s << QStringList{u"Ctrl+Z"_s};
-    QTest::newRow("cut") << u"^x"_s << QStringList{u"Ctrl+X"_s};
-    QTest::newRow("Ctrl for one key alone") << u"^cd"_s << QStringList{u"Ctrl+C"_s, u"D \"d\""_s};
+    QTest::newRow("undo") << u"^{z}"_s << QStringList{u"Ctrl+Z \"\x1A\""_s};
+    QTest::newRow("cut") << u"^x"_s << QStringList{u"Ctrl+X \"\x18\""_s};
+    QTest::newRow("Ctrl for one key alone") << u"^cd"_s << QStringList{u"Ctrl+C \"\x03\""_s, u"D \"d\""_s};
+    QTest::newRow("Ctrl and Shift") << u"^+z"_s << QStringList{u"Ctrl+Shift+Z \"\x1A\""_s};
+    QTest::newRow("Ctrl and no letter") << u"^1^{[}"_s << QStringList{u"Ctrl+1"_s, u"Ctrl+["_s};
     QTest::newRow("Alt") << u"%f"_s << QStringList{u"Alt+F"_s};
     QTest::newRow("Shift") << u"+a"_s << QStringList{u"Shift+A \"A\""_s};
     QTest::newRow("all three") << u"^%+a"_s << QStringList{u"Ctrl+Alt+Shift+A"_s};
@@ -171,6 +174,18 @@ void tst_SendKeys::cutAndPasteAreWorkedWhenTheCallReturns()
     QCOMPARE(m_window->box.Text(), u"two"_s);
     SendKeys(u"{END}^v"_s);
     QCOMPARE(m_window->box.Text(), u"twoone "_s);
+}
+
+void tst_SendKeys::aControlCharacterIsPutInNowhere()
+{
+    for (Control *control : {static_cast<Control *>(&m_window->box), static_cast<Control *>(&m_window->line)}) {
+        control->SetFocus();
+        SendKeys(u"ab"_s);
+        for (char16_t letter = u'a'; letter <= u'z'; ++letter)
+            SendKeys(u'^' + QString(letter));
+    }
+    for (const QString &text : {m_window->box.Text(), m_window->line.Text()})
+        QVERIFY2(!text.contains(QRegularExpression(u"[\\x00-\\x09\\x0B-\\x1F]"_s)), qPrintable(text));
 }
 
 void tst_SendKeys::deleteTakesTheCharacterBehindTheCaret()

@@ -3,8 +3,11 @@
 #include "platform/controls/CaptionFont.h"
 #include "platform/controls/text/DocumentText.h"
 
+#include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 
 namespace orvane
@@ -18,10 +21,35 @@ QWidget *newBox(TextBox::Lines lines)
 }
 
 // A change of windows or an open menu leaves the focus where it is.
-bool isMoveOfFocus(const QEvent &event)
+bool isMoveOfFocus(Qt::FocusReason reason)
 {
-    const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
-    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
+}
+
+QString lentFocus()
+{
+    return QStringLiteral("lentFocus");
+}
+
+// A menu bar that is worked by keys has the focus in the box's place, until it gives it back or a click moves it.
+void lendFocus(TextBox &box)
+{
+    auto *lent = new QObject(&box.widget());
+    lent->setObjectName(lentFocus());
+    QObject::connect(qApp, &QApplication::focusChanged, lent, [&box, lent](const QWidget *, const QWidget *now) {
+        if (!now || now->window() != box.widget().window() || qobject_cast<const QMenuBar *>(now)) return;
+        TextBox &loser = box; // what is captured goes with the connection
+        delete lent;
+        emit loser.LostFocus();
+    });
+}
+
+bool takeFocusBack(const QWidget &widget)
+{
+    const QObject *lent = widget.findChild<QObject *>(lentFocus(), Qt::FindDirectChildrenOnly);
+    if (!lent) return false;
+    delete lent;
+    return true;
 }
 } // namespace
 
@@ -41,18 +69,24 @@ bool TextBox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != &widget()) return Control::eventFilter(watched, event);
     const auto keyOf = [event] { return static_cast<const QKeyEvent *>(event); };
+    const auto reasonOf = [event] { return static_cast<const QFocusEvent *>(event)->reason(); };
     switch (event->type()) {
     case QEvent::KeyPress:
         if (!keyOf()->text().isEmpty()) emit KeyPress(keyOf()->text().front().unicode());
+        break;
+    case QEvent::InputMethod:
+        for (const QChar character : static_cast<const QInputMethodEvent *>(event)->commitString())
+            emit KeyPress(character.unicode());
         break;
     case QEvent::KeyRelease:
         emit KeyUp();
         break;
     case QEvent::FocusIn:
-        if (isMoveOfFocus(*event)) emit GotFocus();
+        if (!takeFocusBack(widget()) && isMoveOfFocus(reasonOf())) emit GotFocus();
         break;
     case QEvent::FocusOut:
-        if (isMoveOfFocus(*event)) emit LostFocus();
+        if (reasonOf() == Qt::MenuBarFocusReason) lendFocus(*this);
+        if (isMoveOfFocus(reasonOf())) emit LostFocus();
         break;
     default:
         break;
