@@ -25,6 +25,9 @@ private slots:
     void aRoundWithoutAnEndIsLeft();
     void wrongUseIsRefused_data();
     void wrongUseIsRefused();
+    void withoutATemporaryFolderNothingIsWalked();
+    void itsHelpNeedsNoDisplay();
+    void withoutADisplayItFails();
     void noTemporaryFolderIsLeft_data();
     void noTemporaryFolderIsLeft();
 
@@ -52,6 +55,19 @@ QByteArray step(const QByteArray &tag, const QByteArray &heading, const QByteArr
 QByteArray anEnd()
 {
     return step("603", "The end", "(none)");
+}
+
+// The program started meanwhile finds no display.
+auto takeDisplayAway()
+{
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    const QByteArray display = qgetenv("DISPLAY");
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    qunsetenv("DISPLAY");
+    return qScopeGuard([platform, display] {
+        qputenv("QT_QPA_PLATFORM", platform);
+        if (!display.isEmpty()) qputenv("DISPLAY", display);
+    });
 }
 } // namespace
 
@@ -173,6 +189,32 @@ void tst_TourWalk::wrongUseIsRefused()
     QCOMPARE(run(arguments), 2);
     QVERIFY2(m_errors.contains(reason), qPrintable(m_errors));
     QVERIFY(m_output.isEmpty());
+}
+
+// The settings that the tour confirms would be the user's own.
+void tst_TourWalk::withoutATemporaryFolderNothingIsWalked()
+{
+    qputenv("TMPDIR", "/dev/null");
+    const auto restore = qScopeGuard([] { qunsetenv("TMPDIR"); });
+    QCOMPARE(run({u"--out"_s, path(u"out"_s)}), 2);
+    QVERIFY2(m_errors.contains(u"no temporary folder can be made"_s), qPrintable(m_errors));
+    QVERIFY(!QDir(path(u"out"_s)).exists());
+}
+
+void tst_TourWalk::itsHelpNeedsNoDisplay()
+{
+    const auto restore = takeDisplayAway();
+    QCOMPARE(run({u"--help"_s}), 0);
+    QVERIFY2(m_output.startsWith(u"Usage: "_s) && m_output.contains(u"SCRIPT"_s), qPrintable(m_output));
+    QCOMPARE(run({u"--version"_s}), 0);
+    QVERIFY2(m_output.startsWith(u"tourwalk "_s), qPrintable(m_output));
+}
+
+void tst_TourWalk::withoutADisplayItFails()
+{
+    const auto restore = takeDisplayAway();
+    QCOMPARE(run({}), 1);
+    QVERIFY2(m_errors.contains(u"could not connect to display"_s), qPrintable(m_errors));
 }
 
 void tst_TourWalk::noTemporaryFolderIsLeft_data()

@@ -1,6 +1,7 @@
 // tourwalk: walks a tour script through the live program and leaves a page with a picture of each step, and the
 // documents of the modules as PDF files.
 #include "platform/controls/Palette.h"
+#include "platform/system/DisplayStart.h"
 #include "platform/system/Guard.h"
 #include "platform/system/SettingsStore.h"
 
@@ -32,8 +33,12 @@ ExitCode refused(const QString &reason)
     return WrongUse;
 }
 
-Request readRequest(const QStringList &arguments)
+// Needs no display: nor does the help.
+Request readRequest(int argc, char *argv[])
 {
+    const QCoreApplication reader(argc, argv);
+    QCoreApplication::setApplicationName(u"tourwalk"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
     QCommandLineParser parser;
     parser.setApplicationDescription(
         u"Walks a tour script through the program: a picture of each step, a page of them all (index.html), and each "
@@ -44,7 +49,7 @@ Request readRequest(const QStringList &arguments)
     const QCommandLineOption out(u"out"_s, u"The folder that is written to (out)."_s, u"folder"_s, u"out"_s);
     parser.addOption(out);
     parser.addPositionalArgument(u"SCRIPT"_s, u"The script; without one, that beside the program."_s, u"[SCRIPT]"_s);
-    parser.process(arguments);
+    parser.process(reader);
     const QStringList scripts = parser.positionalArguments();
     if (scripts.size() > 1) std::exit(refused(u"one script at a time; see --help"_s));
     return {scripts.value(0), parser.value(out)};
@@ -79,6 +84,7 @@ ExitCode answer(const Request &request)
 {
     const QTemporaryDir settings; // the tour confirms the user's details, and must not change those of whoever runs it
     const QTemporaryDir program;
+    if (!settings.isValid() || !program.isValid()) return refused(u"no temporary folder can be made"_s);
     setSettingsFolder(settings.path());
     if (!request.script.isEmpty() && !furnish(program.path(), request.script))
         return refused(u"\"%1\" can't be read"_s.arg(request.script));
@@ -92,12 +98,12 @@ ExitCode answer(const Request &request)
 
 int main(int argc, char *argv[])
 {
+    const Request request = readRequest(argc, argv);
+    prepareForDisplay();
     QApplication application(argc, argv);
-    QApplication::setApplicationName(u"tourwalk"_s);
-    QApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
     applyLooks(application);
-    const ExitCode exitCode = answer(readRequest(QApplication::arguments()));
+    const ExitCode exitCode = answer(request);
     std::fflush(stdout);
     std::_Exit(exitCode); // as the program itself ends: no window's clean-up
 }
