@@ -1,5 +1,6 @@
 // The door between the event loop and the handlers, the end of the program, numbers, and the machine's message box.
 #include "platform/system/Application.h"
+#include "platform/system/File.h"
 #include "platform/system/Guard.h"
 #include "platform/system/Number.h"
 #include "support/ErrorOf.h"
@@ -9,6 +10,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QTimer>
 #include <stdexcept>
@@ -51,6 +53,9 @@ private slots:
     void aMessageIsNeverTakenForMarkup();
     void theHostBeforeIsHandedBack();
     void theProgramsFolderIsWhereItsFileLies();
+    void aFileIsReadWhole();
+    void aFileThatIsNotThereOrFailsIsAnError_data();
+    void aFileThatIsNotThereOrFailsIsAnError();
 };
 
 void tst_System::aRunTimeErrorIsShownAndEndsTheProgram()
@@ -314,6 +319,30 @@ void tst_System::theHostBeforeIsHandedBack()
 void tst_System::theProgramsFolderIsWhereItsFileLies()
 {
     QCOMPARE(Host().programFolder(), QFileInfo(QFile::symLinkTarget(u"/proc/self/exe"_s)).path());
+}
+
+void tst_System::aFileIsReadWhole()
+{
+    const QByteArray bytes("Step\0 17\r\n", 10);
+    QTemporaryFile file;
+    QVERIFY(file.open() && file.write(bytes) == bytes.size() && file.flush());
+    QCOMPARE(readWholeFile(file.fileName()), bytes);
+}
+
+void tst_System::aFileThatIsNotThereOrFailsIsAnError_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("number");
+    QTest::newRow("not there") << u"/proc/none"_s << int(FileNotFound);
+    QTest::newRow("a folder") << u"/proc"_s << int(PathAccessError);
+    // Whose first page nobody can read.
+    QTest::newRow("opened, and then fails") << u"/proc/self/mem"_s << int(PathAccessError);
+}
+
+void tst_System::aFileThatIsNotThereOrFailsIsAnError()
+{
+    QFETCH(QString, name);
+    QTEST(errorOf([&] { readWholeFile(name); }), "number");
 }
 
 QTEST_MAIN(tst_System)
