@@ -68,7 +68,7 @@ void writePictures(const QString &list, const QDir &output)
         const PictureEntry entry = entryOf(list, line);
         QFile file(output.filePath(entry.name + QStringLiteral(".bmp")));
         const QByteArray bitmap = indexedBitmap(pictureOf(entry, QFileInfo(list).dir()), entry.colours);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bitmap) != bitmap.size())
+        if (!file.open(QIODevice::WriteOnly) || file.write(bitmap) != bitmap.size() || !file.flush())
             throw FormError(QStringLiteral("%1: %2").arg(file.fileName(), file.errorString()));
     }
 }

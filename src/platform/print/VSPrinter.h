@@ -67,8 +67,7 @@ public:
     int TextAlign() const { return m_textAlign; } // SelAlignments: of columns that say none
     void setTextAlign(int alignment);
     QString FontName() const { return m_fontName; } // of all but rich text
-    void setFontName(const QString &family) { m_fontName = family; }
-    double FontSize() const { return m_fontSize; } // points, above 0
+    double FontSize() const { return m_fontSize; }  // points, above 0
     void setFontSize(double points);
     int TableBorder() const { return m_tableBorder; } // TableBorders
     void setTableBorder(int border);

@@ -198,7 +198,7 @@ void RichEdit::mouseReleaseEvent(QMouseEvent *event)
     QTextEdit::mouseReleaseEvent(event);
     const QPointer<RichEdit> self = this;
     if (event->button() == Qt::LeftButton) emit pressed();
-    emit released(numberOf(event->button()), shiftOf(event->modifiers()), event->position());
+    if (self) emit released(numberOf(event->button()), shiftOf(event->modifiers()), event->position());
     if (self && isVisible() && event->button() == Qt::RightButton) openMenu(event->globalPosition().toPoint());
 }
 
