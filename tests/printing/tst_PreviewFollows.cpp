@@ -31,6 +31,7 @@ private slots:
     void thePageFollowsTheArrowsAmongThumbnails();
     void scrollingOnAPageLeavesATypedNumber();
     void theZoomFollowsCtrlAndTheWheel();
+    void scrollingPutsTheZoomInPlaceOfATypedOne();
     void aNextJobShowsTheZoomOfItsPages_data();
     void aNextJobShowsTheZoomOfItsPages();
     void otherPaperShowsItsZoom();
@@ -133,6 +134,16 @@ void tst_PreviewFollows::theZoomFollowsCtrlAndTheWheel()
     wheel(Notch, Qt::ControlModifier);
     QVERIFY(vs().Zoom() > 75);
     QCOMPARE(text(u"miZoom"_s), u"%1%"_s.arg(int(vs().Zoom())));
+}
+
+void tst_PreviewFollows::scrollingPutsTheZoomInPlaceOfATypedOne()
+{
+    open().pick(u"100%"_s);
+    view().verticalScrollBar()->setValue(0);
+    open().tool(u"miZoom"_s).setText(u"200"_s);
+    wheel(-Notch);
+    QVERIFY(view().verticalScrollBar()->value() > 0);
+    QCOMPARE(text(u"miZoom"_s), u"100%"_s);
 }
 
 void tst_PreviewFollows::aNextJobShowsTheZoomOfItsPages_data()

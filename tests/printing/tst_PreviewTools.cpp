@@ -35,6 +35,7 @@ private slots:
     void theWindowOpensMaximizedWithItsEntries();
     void thePagesFillTheWindowBelowTheTools();
     void aMinimizedWindowLaysOutNothing();
+    void theZoomOfAModeFollowsTheFramesSize();
     void thePageSettingsOfTheDesign();
     void anEntryChangesTheView_data();
     void anEntryChangesTheView();
@@ -55,6 +56,8 @@ private slots:
     void closeReportsByModule();
     void closingARecordReportsNothing();
     void unloadingReportsAndForgets();
+    void thePreviewGoesAfterItsReport_data();
+    void thePreviewGoesAfterItsReport();
     void closeHidesAndKeepsTheDocument();
     void pageSetupLaysTheDocumentOutAnew();
     void aCancelledPageSetupChangesNothing();
@@ -71,6 +74,7 @@ private:
     VSPrinter &vs() const { return m_open->vs(); }
     QString text(const QString &tool) const { return open().tool(tool).Text(); }
     bool enabled(const QString &tool) const { return open().tool(tool).Enabled(); }
+    bool isInWindowMenu() const;
 
     std::unique_ptr<PreviewedSystem> m_open;
 };
@@ -83,6 +87,13 @@ void tst_PreviewTools::init()
 void tst_PreviewTools::cleanup()
 {
     m_open.reset();
+}
+
+bool tst_PreviewTools::isInWindowMenu() const
+{
+    for (const auto &entry : open().system.frame().mnuMain.Bands(u"mnuWindow"_s).Tools())
+        if (entry->Name() == u"Print Preview"_s) return true;
+    return false;
 }
 
 void tst_PreviewTools::theWindowOpensMaximizedWithItsEntries()
@@ -120,6 +131,19 @@ void tst_PreviewTools::aMinimizedWindowLaysOutNothing()
     QCOMPARE(vs().Width(), 3000.0);
     open().window().setWindowState(Maximized);
     QTRY_COMPARE(vs().Width(), width);
+}
+
+void tst_PreviewTools::theZoomOfAModeFollowsTheFramesSize()
+{
+    open().preview(GuideModule);
+    open().pick(u"Whole Page"_s);
+    const double before = vs().Zoom();
+    mdiMain &frame = open().system.frame();
+    frame.setWindowState(Normal);
+    frame.setWidth(9500);
+    frame.setHeight(5600);
+    QTRY_VERIFY(vs().Zoom() < before - 1);
+    QCOMPARE(text(u"miZoom"_s), u"%1%"_s.arg(int(vs().Zoom())));
 }
 
 void tst_PreviewTools::thePageSettingsOfTheDesign()
@@ -340,8 +364,34 @@ void tst_PreviewTools::unloadingReportsAndForgets()
     open().window().subWindow().close();
     QCOMPARE(open().system.console().Tag(), u"206"_s);
     QCOMPARE(countWindows(u"frmPrint"_s), 0);
-    for (const auto &entry : open().system.frame().mnuMain.Bands(u"mnuWindow"_s).Tools())
-        QVERIFY(entry->Name() != u"Print Preview"_s);
+    QVERIFY(!isInWindowMenu());
+}
+
+void tst_PreviewTools::thePreviewGoesAfterItsReport_data()
+{
+    QTest::addColumn<bool>("byTool");
+    QTest::newRow("close tool: the entry, then the window") << true;
+    QTest::newRow("close box: the window, then the entry") << false;
+}
+
+void tst_PreviewTools::thePreviewGoesAfterItsReport()
+{
+    QFETCH(bool, byTool);
+    open().preview(ManualModule);
+    QList<bool> wholeAtReport;
+    QList<bool> visibleAsEntryWent;
+    connect(&open().system.console().txtTag, &TextBox::Change, this,
+            [&] { wholeAtReport << (open().window().Visible() && isInWindowMenu()); });
+    connect(&open().system.frame().mnuMain, &ActiveBar::Changed, this, [&] {
+        if (visibleAsEntryWent.isEmpty() && !isInWindowMenu()) visibleAsEntryWent << open().window().Visible();
+    });
+    if (byTool)
+        open().press(u"close"_s);
+    else
+        open().window().subWindow().close();
+    QCOMPARE(open().system.console().Tag(), u"206"_s);
+    QCOMPARE(wholeAtReport, QList<bool>{true});
+    QCOMPARE(visibleAsEntryWent, QList<bool>{byTool});
 }
 
 void tst_PreviewTools::closeHidesAndKeepsTheDocument()
@@ -352,8 +402,7 @@ void tst_PreviewTools::closeHidesAndKeepsTheDocument()
     QVERIFY(!open().window().Visible());
     QCOMPARE(countWindows(u"frmPrint"_s), 1);
     QCOMPARE(vs().PageCount(), pages);
-    for (const auto &entry : open().system.frame().mnuMain.Bands(u"mnuWindow"_s).Tools())
-        QVERIFY(entry->Name() != u"Print Preview"_s);
+    QVERIFY(!isInWindowMenu());
 }
 
 void tst_PreviewTools::pageSetupLaysTheDocumentOutAnew()

@@ -4,6 +4,7 @@
 #include "platform/print/preview/PreviewView.h"
 
 #include <QAbstractScrollArea>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QWheelEvent>
@@ -39,6 +40,10 @@ private slots:
     void homeAndEndGoToTheOutermostPages();
     void theWheelScrollsAndTurnsAtThePagesEnd();
     void aTouchPadTurnsAfterAWholeNotch();
+    void aClickOnAScrollBarScrolls_data();
+    void aClickOnAScrollBarScrolls();
+    void aDraggedScrollBarScrolls();
+    void leftAndRightScrollAcross();
     void ctrlAndTheWheelZoom();
     void ctrlAndPlusZoomByKeyboard();
     void aClickOnAThumbnailShowsItsPage();
@@ -56,6 +61,7 @@ private:
     QAbstractScrollArea &view() const { return static_cast<QAbstractScrollArea &>(vs().widget()); }
     QScrollBar &bar() const { return *view().verticalScrollBar(); }
     void show(int pages);
+    void showLarge(); // a page from its corner
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&view(), key, modifiers); }
     void wheel(int delta, Qt::KeyboardModifiers modifiers = {}) const;
 
@@ -85,6 +91,15 @@ void tst_VSPrinterPreview::show(int pages)
     vs().EndDoc();
     showActive(*m_window);
     vs().SetFocus();
+}
+
+void tst_VSPrinterPreview::showLarge()
+{
+    show(1);
+    vs().setZoom(400);
+    view().horizontalScrollBar()->setValue(0);
+    bar().setValue(0);
+    QTRY_VERIFY(bar().isVisible());
 }
 
 void tst_VSPrinterPreview::wheel(int delta, Qt::KeyboardModifiers modifiers) const
@@ -276,9 +291,11 @@ void tst_VSPrinterPreview::theWheelScrollsAndTurnsAtThePagesEnd()
     wheel(-120);
     QCOMPARE(vs().PreviewPage(), 2);
     QCOMPARE(bar().value(), 0);
+    QCOMPARE(scrolled.count(), 2);
     wheel(120);
     QCOMPARE(vs().PreviewPage(), 1);
     QCOMPARE(bar().value(), bar().maximum());
+    QCOMPARE(scrolled.count(), 3);
 }
 
 void tst_VSPrinterPreview::aTouchPadTurnsAfterAWholeNotch()
@@ -292,6 +309,55 @@ void tst_VSPrinterPreview::aTouchPadTurnsAfterAWholeNotch()
     QCOMPARE(vs().PreviewPage(), 2);
     wheel(-120);
     QCOMPARE(vs().PreviewPage(), 2);
+}
+
+void tst_VSPrinterPreview::aClickOnAScrollBarScrolls_data()
+{
+    QTest::addColumn<int>("aboveEnd"); // of the bar, pixels
+    QTest::newRow("trough") << 150;
+    QTest::newRow("arrow") << 5;
+}
+
+// The event finds the view where the user has brought it.
+void tst_VSPrinterPreview::aClickOnAScrollBarScrolls()
+{
+    QFETCH(int, aboveEnd);
+    showLarge();
+    QList<int> places;
+    connect(&vs(), &VSPrinter::ViewScrolled, this, [&] { places << bar().value(); });
+    QTest::mouseClick(&bar(), Qt::LeftButton, {}, {bar().width() / 2, bar().height() - aboveEnd});
+    QVERIFY(bar().value() > 0);
+    QCOMPARE(places, QList<int>{bar().value()});
+}
+
+void tst_VSPrinterPreview::aDraggedScrollBarScrolls()
+{
+    constexpr int OnHandle = 40; // pixels below the bar's upper end
+    showLarge();
+    QSignalSpy scrolled(&vs(), &VSPrinter::ViewScrolled);
+    const QPoint from(bar().width() / 2, OnHandle);
+    const QPoint to = from + QPoint(0, 100);
+    QTest::mousePress(&bar(), Qt::LeftButton, {}, from);
+    QCOMPARE(scrolled.count(), 0);
+    QMouseEvent drag(QEvent::MouseMove, to, bar().mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&bar(), &drag);
+    QTest::mouseRelease(&bar(), Qt::LeftButton, {}, to);
+    QVERIFY(bar().value() > 0);
+    QCOMPARE(scrolled.count(), 1);
+}
+
+void tst_VSPrinterPreview::leftAndRightScrollAcross()
+{
+    showLarge();
+    QSignalSpy scrolled(&vs(), &VSPrinter::ViewScrolled);
+    key(Qt::Key_Right);
+    QVERIFY(view().horizontalScrollBar()->value() > 0);
+    QCOMPARE(scrolled.count(), 1);
+    key(Qt::Key_Left);
+    QCOMPARE(view().horizontalScrollBar()->value(), 0);
+    QCOMPARE(scrolled.count(), 2);
+    key(Qt::Key_Left);
+    QCOMPARE(scrolled.count(), 2);
 }
 
 void tst_VSPrinterPreview::ctrlAndTheWheelZoom()
@@ -371,6 +437,9 @@ void tst_VSPrinterPreview::theProgramsOwnChangesRaiseNoEvent()
     QSignalSpy scrolled(&vs(), &VSPrinter::ViewScrolled);
     vs().setPreviewPage(2);
     vs().setZoom(200);
+    bar().setValue(bar().maximum());
+    vs().setPreviewPage(3);
+    QCOMPARE(bar().value(), 0);
     vs().setZoomMode(ZoomThumbnails);
     QCOMPARE(zoomed.count() + scrolled.count(), 0);
 }

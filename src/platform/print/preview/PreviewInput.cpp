@@ -40,6 +40,15 @@ void PreviewView::scrollOrTurn(int pixels)
     if (m_request.mode != ZoomThumbnails) turn(pixels > 0 ? 1 : -1, pixels < 0);
 }
 
+// A bar tells what the user does to it, by wheel and arrow keys too, before the view has moved.
+void PreviewView::followBar(QScrollBar &bar)
+{
+    if (bar.sliderPosition() == bar.value()) return;
+    bar.setValue(bar.sliderPosition());
+    m_wheelAtEnd = 0;
+    emit scrolled();
+}
+
 void PreviewView::wheelEvent(QWheelEvent *event)
 {
     const QPoint turned = event->angleDelta();
@@ -51,10 +60,7 @@ void PreviewView::wheelEvent(QWheelEvent *event)
     const int down = verticalScrollBar()->value();
     QAbstractScrollArea::wheelEvent(event);
     event->accept();
-    if (across != horizontalScrollBar()->value() || down != verticalScrollBar()->value()) {
-        m_wheelAtEnd = 0;
-        return emit scrolled();
-    }
+    if (across != horizontalScrollBar()->value() || down != verticalScrollBar()->value()) return;
     // A touch pad turns in many small steps: at the end of a page a whole notch is needed to go on.
     m_wheelAtEnd += turned.y();
     if (std::abs(m_wheelAtEnd) < WheelNotch || m_request.mode == ZoomThumbnails) return;

@@ -36,6 +36,8 @@ PreviewView::PreviewView()
     ground.setColor(QPalette::Window, palette::Line);
     viewport()->setPalette(ground);
     viewport()->setBackgroundRole(QPalette::Window);
+    for (QScrollBar *bar : {horizontalScrollBar(), verticalScrollBar()})
+        connect(bar, &QScrollBar::actionTriggered, this, [this, bar] { followBar(*bar); });
     describePage();
 }
 

@@ -1,7 +1,8 @@
 // Shows the pages of a recorded document at a zoom, as they come out on paper.
 //
-// By the keyboard: Page Up, Page Down, Up and Down scroll, and turn the page at its end; Home and End go to the first
-// and last page; Ctrl with plus and minus zooms. Among thumbnails the arrows choose a page, and Enter shows it.
+// By the keyboard: Page Up, Page Down, Up and Down scroll, and turn the page at its end; Left and Right scroll across;
+// Home and End go to the first and last page; Ctrl with plus and minus zooms. Among thumbnails the arrows choose a
+// page, and Enter shows it.
 #pragma once
 
 #include "platform/print/pages/RecordedPage.h"
@@ -57,6 +58,7 @@ private:
     void zoomBy(double factor);
     void turn(int pages, bool toItsEnd);
     void scrollOrTurn(int pixels);
+    void followBar(QScrollBar &bar);
     bool zoomKey(const QKeyEvent &event);
     bool pageKey(int key);
     bool thumbnailKey(int key);
