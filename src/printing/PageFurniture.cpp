@@ -4,6 +4,9 @@
 
 #include "printing/frmPrint.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace orvane
 {
 
@@ -21,9 +24,11 @@ constexpr double PointsAfterwards = 11.25;
 constexpr int NoTableBorder = 0;
 constexpr int BorderAfterwards = 7;
 
+// A width is a 16-bit integer. There is paper that leaves a column more room than that.
 QString widthText(double twips)
 {
-    return QString::number(static_cast<qint16>(twips));
+    using Width = std::numeric_limits<qint16>;
+    return QString::number(static_cast<qint16>(std::clamp<double>(twips, Width::min(), Width::max())));
 }
 
 QString opening()

@@ -39,6 +39,7 @@ private slots:
     void textsThatHoldASeparatorBreakTheirRow();
     void aNarrowPageIsNoHarm();
     void aPageNarrowerThanItsMarginsIsNoHarm();
+    void aPageMayBeWiderThanAWidthCanTell();
     void aRecordRaisesBothBands();
     void aHeadingIsWrapped();
     void aTextIsWrapped();
@@ -184,6 +185,7 @@ void tst_PageFurniture::theIssueBlockHasItsLabels()
     QFETCH(bool, labels);
     open().preview(module);
     const auto pages = open().printed();
+    QVERIFY(!pages.empty());
     for (std::size_t page = 0; page < pages.size(); ++page) {
         const QString words = wordsOf(pages[page]);
         const QString foot = labels ? u"Issue: Authorized by: Page: %1"_s : u"Page: %1"_s;
@@ -262,6 +264,18 @@ void tst_PageFurniture::aPageNarrowerThanItsMarginsIsNoHarm()
     vs().setMarginRight(7000);
     open().preview(ToolModule);
     QVERIFY(vs().PageCount() > 0);
+}
+
+// 48960 between the margins, and 32767 is the largest width.
+void tst_PageFurniture::aPageMayBeWiderThanAWidthCanTell()
+{
+    constexpr int SheetE = 26; // 36 by 48 inches
+    vs().setPaperSize(SheetE);
+    open().preview(ManualModule);
+    const PrintedPage page = open().printed().front();
+    QVERIFY(isNear(page.size.width(), 51840));
+    const QRectF title = page.placeOf(u"Environment"_s) | page.placeOf(u"Manual"_s);
+    QVERIFY2(isNear(title.center().x(), 1440 + 2250 + 32767 / 2.0), qPrintable(wordsOf(page).left(80)));
 }
 
 void tst_PageFurniture::aRecordRaisesBothBands()
