@@ -64,7 +64,7 @@ void frmRCMain::fillPictures()
     picRCB.setPurpose(QStringLiteral("Blank record"));
 }
 
-// The container covers the logo and the two panels, which bear nothing in this window.
+// Once it fills the window, the container covers the logo and the two panels, which bear nothing here.
 void frmRCMain::placeControls()
 {
     setDesignSize(8250, 6345);
@@ -83,11 +83,11 @@ void frmRCMain::placeControls()
         covered->ZOrderBack();
     mnuLinks.setPurpose(QStringLiteral("Print, choice of form and close"));
     mnuNav.setPurpose(QStringLiteral("Pages"));
-    ssScroll.setAlign(AlignedAllOver);
 }
 
 void frmRCMain::Form_Load()
 {
+    ssScroll.setAlign(AlignedAllOver); // until now it has its size in the design
     pnlNumber.setDataField(QStringLiteral("Section"));
     pnlHeading.setDataField(QStringLiteral("Title"));
     if (sectionNow() != PlanSection) {

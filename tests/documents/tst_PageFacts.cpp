@@ -114,7 +114,9 @@ void tst_PageFacts::everyFigureIsOnTheSheet()
 {
     QFETCH(QString, rtf);
     const QString sheet = factSheet();
-    for (const QString &figure : allMatches(Figure, plain(rtf)))
+    const QStringList figures = allMatches(Figure, plain(rtf));
+    QVERIFY(!figures.isEmpty());
+    for (const QString &figure : figures)
         QVERIFY2(sheet.contains(QRegularExpression(u"\\b"_s + figure + u"\\b"_s)), qPrintable(figure));
 }
 
@@ -291,7 +293,9 @@ void tst_PageFacts::aDocumentIsOneBalancedGroupOfAscii()
 void tst_PageFacts::everyRunIsInTimesAndAKnownSize()
 {
     QFETCH(QString, rtf);
-    for (const pageblocks::Block &block : pageblocks::blocks(rtf))
+    const auto blocks = pageblocks::blocks(rtf);
+    QVERIFY(!blocks.isEmpty() && !blocks.first().runs.isEmpty());
+    for (const pageblocks::Block &block : blocks)
         for (const pageblocks::Run &run : block.runs) {
             QCOMPARE(run.family, u"Times New Roman"_s);
             QVERIFY2(QList<int>({24, 26, 28, 30}).contains(run.size), qPrintable(run.text));

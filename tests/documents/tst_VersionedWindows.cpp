@@ -35,7 +35,10 @@ private slots:
     void tabGoesThroughTheFields();
     void printingHandsOverTheJob_data();
     void printingHandsOverTheJob();
+    void anotherPrintGoesIntoTheSamePreview_data() { addSisters(); }
+    void anotherPrintGoesIntoTheSamePreview();
     void theWholeManualIsPrintedByNameAlone();
+    void theManualIsPrintedByTheNumberOfTheOthersToo();
     void thePagesBearTheVersionsCompanyAndTheDocument_data();
     void thePagesBearTheVersionsCompanyAndTheDocument();
     void aLinkOpensItsModule_data();
@@ -223,6 +226,21 @@ void tst_VersionedWindows::printingHandsOverTheJob()
     QVERIFY(Default<frmPrint>().vs.PageCount() > 0);
 }
 
+// The preview reports 206 or 311 as it goes; here it stays.
+void tst_VersionedWindows::anotherPrintGoesIntoTheSamePreview()
+{
+    QFETCH(Sister, sister);
+    const VersionedSystem open(sister);
+    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {u"prtPartial"_s}));
+    const frmPrint &first = Default<frmPrint>();
+    open.window->SetFocus();
+    open.tags->clear();
+    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {u"prtPartial"_s}));
+    QCOMPARE(open.tags->tags(), sister == Sister::Manual ? QStringList({u"205"_s}) : QStringList({u"1"_s, u"310"_s}));
+    QCOMPARE(&Default<frmPrint>(), &first);
+    QCOMPARE(open.system.active(), &first);
+}
+
 void tst_VersionedWindows::theWholeManualIsPrintedByNameAlone()
 {
     const VersionedSystem open(Sister::Manual);
@@ -230,6 +248,16 @@ void tst_VersionedWindows::theWholeManualIsPrintedByNameAlone()
     Tool &whole = open.window->mnuLinks.Tools(u"prtComplete"_s);
     open.window->names().call(u"mnuLinks_Click"_s, {.tool = &whole});
     QCOMPARE(open.tags->tags(), QStringList(u"2"_s));
+    QCOMPARE(Default<frmPrint>().vs.DocName(), u"Environment Manual"_s);
+}
+
+// Its own print tool bears 205; 1 prints as in the other modules.
+void tst_VersionedWindows::theManualIsPrintedByTheNumberOfTheOthersToo()
+{
+    const VersionedSystem open(Sister::Manual);
+    open.window->mnuLinks.Tools(u"prtPartial"_s).setToolTag(1);
+    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {u"prtPartial"_s}));
+    QCOMPARE(open.tags->tags(), QStringList(u"1"_s));
     QCOMPARE(Default<frmPrint>().vs.DocName(), u"Environment Manual"_s);
 }
 

@@ -54,6 +54,7 @@ class tst_frmATMain : public QObject
 private slots:
     void itShowsTheOneTool_data();
     void itShowsTheOneTool();
+    void aSecondWindowDiffersInItsTagAlone();
     void thePageCannotBeChanged();
     void everyPartHasItsPlace_data();
     void everyPartHasItsPlace();
@@ -64,9 +65,11 @@ private slots:
     void aLinkReportsItsThreeDigitsAndOpensItsModule();
     void aWindowThatItsLinkClosesEndsQuietly();
     void printingReports402AndReplacesThePreview();
+    void printingReportsBeforeTheOldPreviewGoes();
     void thePagesBearTheDocument();
     void theWholeModuleCannotBePrinted();
     void aToolWithoutNumberIsReportedAndDoesNothing();
+    void aSectionOfThreeDigitsIsReportedAndOpensNothing();
     void closeReportsAndLeadsToTheDiagram();
     void theSelectionMovesTheEditTools();
 };
@@ -87,6 +90,20 @@ void tst_frmATMain::itShowsTheOneTool()
     QCOMPARE(open.window->Caption(), u"Action Tools"_s);
     QCOMPARE(open.window->Tag(), u"[Action Tools] - "_s + title);
     QVERIFY(open.window->rtfData.Text().startsWith(u"This Action Tool assists you to prepare and review emergency"_s));
+}
+
+void tst_frmATMain::aSecondWindowDiffersInItsTagAlone()
+{
+    const ToolWindow open;
+    OpenTools(u"Something else"_s, u"499"_s);
+    const auto &second = dynamic_cast<frmATMain &>(*open.system.active());
+    QVERIFY(&second != open.window);
+    QCOMPARE(second.Tag(), u"[Action Tools] - Something else"_s);
+    QCOMPARE(second.rtfData.Text(), open.window->rtfData.Text());
+    QCOMPARE(second.rtfData.TextRTF(), open.window->rtfData.TextRTF());
+    QCOMPARE(second.Caption(), open.window->Caption());
+    QCOMPARE(second.pnlNumber.Caption(), open.window->pnlNumber.Caption());
+    QCOMPARE(second.pnlHeading.Caption(), open.window->pnlHeading.Caption());
 }
 
 void tst_frmATMain::thePageCannotBeChanged()
@@ -228,6 +245,17 @@ void tst_frmATMain::printingReports402AndReplacesThePreview()
     QCOMPARE(open.system.active()->Name(), u"frmPrint"_s);
 }
 
+// The first print's preview reports 406 as it goes.
+void tst_frmATMain::printingReportsBeforeTheOldPreviewGoes()
+{
+    const ToolWindow open;
+    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {u"prtPartial"_s}));
+    open.window->SetFocus();
+    open.tags->clear();
+    QVERIFY(chooseFromFlyout(open.window->mnuLinks, u"Print"_s, {u"prtPartial"_s}));
+    QCOMPARE(open.tags->tags(), QStringList({u"402"_s, u"406"_s}));
+}
+
 void tst_frmATMain::thePagesBearTheDocument()
 {
     ToolWindow open;
@@ -257,6 +285,20 @@ void tst_frmATMain::aToolWithoutNumberIsReportedAndDoesNothing()
     open.system.console().cmdQuit.setVisible(true);
     open.window->mnuLinks_Click(open.window->mnuLinks.Tools(u"RelatedTopics"_s));
     QVERIFY(!open.system.console().cmdQuit.Visible());
+    QCOMPARE(open.system.active(), open.window);
+}
+
+// A link of this window has four digits.
+void tst_frmATMain::aSectionOfThreeDigitsIsReportedAndOpensNothing()
+{
+    const ToolWindow open;
+    Tool &tool = open.window->mnuLinks.Bands(0).Tools().Add(99, u"loose"_s);
+    tool.setCaption(u"STEP 17 - Emergency Preparedness and Response"_s);
+    tool.setToolTag(127);
+    open.window->mnuLinks_Click(tool);
+    QCOMPARE(open.tags->tags(), QStringList(u"127"_s));
+    QCOMPARE(tool.ToolTag(), 127);
+    QCOMPARE(countWindows(u"frmIGSteps"_s), 0);
     QCOMPARE(open.system.active(), open.window);
 }
 

@@ -170,6 +170,7 @@ void tst_Advice::anAdviceIsOneBalancedGroupOfAscii()
 {
     QFETCH(int, number);
     const QString page = advice(number);
+    QVERIFY(!page.isEmpty());
     int depth = 0;
     for (qsizetype i = 0; i < page.size(); ++i) {
         const char16_t c = page.at(i).unicode();

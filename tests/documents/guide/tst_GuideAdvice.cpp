@@ -53,6 +53,8 @@ private slots:
     void anIntroductionHearsNoClick();
     void otherButtonsChangeNothing_data();
     void otherButtonsChangeNothing();
+    void otherButtonsLeaveTheCaretAtTheStart_data() { otherButtonsChangeNothing_data(); }
+    void otherButtonsLeaveTheCaretAtTheStart();
     void anotherViewShowsNoPane_data();
     void anotherViewShowsNoPane();
     void comingBackStartsFromTheFirstAction_data();
@@ -184,12 +186,28 @@ void tst_GuideAdvice::otherButtonsChangeNothing()
     const ImplementationPage open;
     open.clickCharacter(open.startOfAction(2) + 4);
     QTest::mouseClick(&open.guide->cmdTipsClose.widget(), Qt::LeftButton);
+    open.guide->rtfData.setSelLength(6);
+    const int caret = open.guide->rtfData.SelStart();
     const QString page = open.guide->rtfData.TextRTF();
     open.clickCharacter(open.startOfAction(5) + 4, button);
+    QCOMPARE(open.guide->rtfData.SelStart(), caret);
+    QCOMPARE(open.guide->rtfData.SelLength(), 6);
     QCOMPARE(open.shown(), 2);
     QVERIFY(open.paneHidden());
     QCOMPARE(open.guide->rtfData.TextRTF(), page);
     QCOMPARE(open.checkedTools(), QStringList(u"Implementation"_s));
+}
+
+// A click of the left button takes it behind the first marker.
+void tst_GuideAdvice::otherButtonsLeaveTheCaretAtTheStart()
+{
+    QFETCH(Qt::MouseButton, button);
+    const ImplementationPage open;
+    QCOMPARE(open.guide->rtfData.SelStart(), 0);
+    open.clickCharacter(open.startOfAction(5) + 4, button);
+    QCOMPARE(open.guide->rtfData.SelStart(), 0);
+    QCOMPARE(open.guide->rtfData.SelLength(), 0);
+    QCOMPARE(open.title(), u"orvane Advice"_s);
 }
 
 void tst_GuideAdvice::anotherViewShowsNoPane_data()

@@ -61,6 +61,8 @@ private slots:
     void aToolWithoutCommandDoesNothing();
     void everyCommandTakesThePreviewAway_data();
     void everyCommandTakesThePreviewAway();
+    void thePreviewGoesBeforeTheCommandReports_data();
+    void thePreviewGoesBeforeTheCommandReports();
     void closeReportsAndLeadsToTheDiagram_data();
     void closeReportsAndLeadsToTheDiagram();
     void theSectionIsReadAtTheClick();
@@ -310,6 +312,27 @@ void tst_frmRCMain::everyCommandTakesThePreviewAway()
     QCOMPARE(countWindows(u"frmPrint"_s), 1);
     open.window->mnuLinks_Click(open.window->mnuLinks.Bands(0).Tools(name));
     QCOMPARE(countWindows(u"frmPrint"_s), 0);
+}
+
+void tst_frmRCMain::thePreviewGoesBeforeTheCommandReports_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("tags");
+    QTest::newRow("vwOption") << u"vwOption"_s << QStringList{u"127"_s, u"502"_s};
+    QTest::newRow("Open") << u"Open"_s << QStringList{u"127"_s, u"503"_s};
+    QTest::newRow("Close") << u"Close"_s << QStringList{u"127"_s, u"504"_s};
+}
+
+// The preview of a guide's print reports 127 as it goes.
+void tst_frmRCMain::thePreviewGoesBeforeTheCommandReports()
+{
+    QFETCH(QString, name);
+    const RecordWindow open(u"511"_s);
+    Default<frmPrint>().PrintPreview(1, u"1"_s, 1, 1, u"STEP 17"_s, u"Emergency Preparedness and Response"_s);
+    open.window->SetFocus();
+    open.tags->clear();
+    open.press(name);
+    QTEST(open.tags->tags(), "tags");
 }
 
 void tst_frmRCMain::closeReportsAndLeadsToTheDiagram_data()

@@ -117,9 +117,9 @@ void tst_frmRCMainLayout::theBlankFormGoesByItsOwnSize()
     frmRCMain &window = *open.window;
     window.picRCB.Move(0, 0, 6000, 3000);
     window.Form_Resize();
-    QCOMPARE(placeOf(window.picRCB), QPointF((15000 - 6000) / 2, (10500 - 3000) / 2));
+    QCOMPARE(placeOf(window.picRCB), QPointF((15000.0 - 6000.0) / 2, (10500.0 - 3000.0) / 2));
     open.resizeClient({1000, 500});
-    QCOMPARE(placeOf(window.picRCB), QPointF((15000 - 6000) / 2, 0));
+    QCOMPARE(placeOf(window.picRCB), QPointF((15000.0 - 6000.0) / 2, 0));
 }
 
 void tst_frmRCMainLayout::theFirstLayoutTakesTheSizeOfTheFrame()
