@@ -7,9 +7,6 @@ source scripts/dependencies.sh
 source scripts/build.sh
 source scripts/session.sh
 
-export ASAN_OPTIONS=detect_leaks=1:halt_on_error=1
-export LSAN_OPTIONS=suppressions=$PWD/tests/leaks.supp:print_suppressions=0
-export UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
 export QT_QPA_PLATFORM=offscreen
 
 # Counts the test functions, and the rows of those that run over a table, of the presets' last runs.
