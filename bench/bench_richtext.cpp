@@ -12,7 +12,7 @@ namespace
 void readRichText(benchmark::State &state)
 {
     const QString text = bench::longRtf(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         QTextDocument document;
         orvane::readRtf(text, document);
         benchmark::DoNotOptimize(document.characterCount());
@@ -23,7 +23,7 @@ void readRichText(benchmark::State &state)
 void setHtml(benchmark::State &state)
 {
     const QString text = bench::longHtml(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         QTextDocument document;
         document.setHtml(text);
         benchmark::DoNotOptimize(document.characterCount());
@@ -35,7 +35,7 @@ void writeRichText(benchmark::State &state)
 {
     QTextDocument document;
     orvane::readRtf(bench::longRtf(static_cast<int>(state.range(0))), document);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(orvane::writeRtf(document));
 }
 

@@ -32,7 +32,7 @@ void letPaint()
 void openGuideWindow(benchmark::State &state)
 {
     const QString title = QStringLiteral("What is ISO14001?");
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         OpenGuide(title, QStringLiteral("104"));
         letPaint();
         state.PauseTiming();
@@ -51,7 +51,7 @@ void openBareSubWindow(benchmark::State &state)
     window.show();
     letPaint();
     const QString page = pages::guideSection4();
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         auto *edit = new QTextEdit;
         readRtf(page, *edit->document());
         QMdiSubWindow *sub = area->addSubWindow(edit);

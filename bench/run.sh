@@ -11,14 +11,14 @@ source scripts/session.sh
 source scripts/display.sh
 source bench/timing.sh
 
-made=$PWD/build/bench/made
+made=build/bench/made # without the folder's own path, which may have blanks
 starts=40     # runs of what takes a tenth of a second
 conversions=5 # and of what takes seconds
 rest_seconds=10
 
 milliseconds() { awk -v s="$1" 'BEGIN { printf "%.1f ms", s * 1000 }'; }
 
-office() { echo "soffice -env:UserInstallation=file://$made/profile --headless"; }
+office() { echo "soffice -env:UserInstallation=file://${PWD// /%20}/$made/profile --headless"; }
 
 # processor_time PROGRAM OURS BARE: the medians of the two benchmarks' times, a line each, in the program's unit.
 processor_time() {

@@ -10,7 +10,10 @@ medians() {
         for ((i = 1; i <= $#; ++i)); do
             read -ra command <<<"${!i}"
             start=${EPOCHREALTIME/./}
-            "${command[@]}" >/dev/null 2>&1 || true
+            if ! "${command[@]}" >/dev/null 2>&1; then
+                echo "failed: ${!i}" >&2
+                return 1
+            fi
             # The first round only warms up.
             ((run == 0)) || times[i]+="$((${EPOCHREALTIME/./} - start)) "
         done

@@ -18,7 +18,7 @@ samples=tests/data/rtf
 declare -A tell_of_rich_text=([libreoffice]=tell_libreoffice [abiword]=tell_abiword_of_rich_text [pandoc]=tell_pandoc)
 kept=(looks lists table marks letters places)
 
-office() { soffice "-env:UserInstallation=file://$PWD/$made/profile" --headless "$@" >/dev/null 2>&1; }
+office() { soffice "-env:UserInstallation=file://${PWD// /%20}/$made/profile" --headless "$@" >/dev/null 2>&1; }
 
 # tell_PROGRAM FOLDER FILE...: what it says of these files, as plain text and as HTML. The name's end tells the format.
 tell_libreoffice() {
@@ -81,9 +81,10 @@ write_pandoc() {
 
 # A line of figures for each file, ALL/AMISS of words, paragraphs, bold, italic, sizes and bullets.
 compare_files() {
-    local file
+    local file figures
     for file in "$1"/*.rtf; do
-        echo "$(basename "$file" .rtf) $("$programs/richtextfacts" compare "$file" "${file%.rtf}.txt" "${file%.rtf}.html")"
+        figures=$("$programs/richtextfacts" compare "$file" "${file%.rtf}.txt" "${file%.rtf}.html")
+        echo "$(basename "$file" .rtf) $figures"
     done
 }
 
