@@ -4,7 +4,7 @@ set -euo pipefail
 CDPATH='' cd -- "$(dirname "${BASH_SOURCE[0]}")/.."
 
 sources() {
-    find . \( -path ./build -o -path ./out -o -path ./.git \) -prune -o -type f \( -name '*.cpp' -o -name '*.h' \) -print0
+    find src tools tests bench -type f \( -name '*.cpp' -o -name '*.h' \) -print0
 }
 
 check() {
