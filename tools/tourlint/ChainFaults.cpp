@@ -1,8 +1,5 @@
 #include "ChainFaults.h"
 
-#include "platform/system/Number.h"
-#include "tour/modDemo.h"
-
 #include "HandEntries.h"
 #include "Move.h"
 #include "MoveFaults.h"
@@ -47,11 +44,6 @@ private:
     std::set<int> m_told; // lines: of what goes wrong in one, the first is told
 };
 
-bool isEnd(const QString &tag)
-{
-    return isNumber(tag) && (toNumber(tag) == EndTag || toNumber(tag) == EndWithDealerTag);
-}
-
 void Walk::report(const Step &step, Way way, const MoveFault &fault)
 {
     const int line = step.script(way).line;
@@ -67,7 +59,7 @@ Point Walk::after(const Point &point, Way way)
     const Value &value = point.step->script(way);
     Point next{nullptr, point.windows};
     const TourScript script(value.text);
-    if (!script.moves() || isEnd(point.step->tag)) return next;
+    if (!script.moves() || point.step->isEnd()) return next;
     if (!verbFault(script, way)) {
         if (const auto fault = move(script, way, next.windows)) report(*point.step, way, *fault);
     }

@@ -1,8 +1,6 @@
 #include "GraphFaults.h"
 
-#include "platform/system/Number.h"
 #include "tour/TourScript.h"
-#include "tour/modDemo.h"
 
 #include "ReportedTags.h"
 
@@ -24,12 +22,6 @@ const Step *target(const ScriptFile &script, const Step &step, Way way)
 {
     const TourScript move(step.script(way).text);
     return move.moves() ? script.step(move.field(0)) : nullptr;
-}
-
-bool isEnd(const Step &step)
-{
-    const double tag = isNumber(step.tag) ? toNumber(step.tag) : 0;
-    return tag == EndTag || tag == EndWithDealerTag;
 }
 
 void findMissing(const ScriptFile &script, Findings &findings)
@@ -63,7 +55,7 @@ void findUnreached(const ScriptFile &script, Findings &findings)
 void findDeadEnds(const ScriptFile &script, Findings &findings)
 {
     for (const Step &step : script.steps)
-        if (!isEnd(step) && !step.next.moves())
+        if (!step.isEnd() && !step.next.moves())
             findings.push_back({step.next.line ? step.next.line : step.line,
                                 u"[%1] is a dead end: it has no Next, and only 603 ends the tour"_s.arg(step.tag)});
 }
@@ -73,7 +65,7 @@ std::vector<const Step *> roundFrom(const ScriptFile &script, const Step &start,
 {
     std::vector<const Step *> way;
     const Step *step = &start;
-    while (step && !isEnd(*step) && passed.insert(step).second) {
+    while (step && !step->isEnd() && passed.insert(step).second) {
         way.push_back(step);
         step = target(script, *step, Way::Forward);
     }

@@ -5,6 +5,7 @@
 #include "platform/system/Number.h"
 #include "platform/system/ProfileFile.h"
 #include "platform/system/RunTimeError.h"
+#include "tour/modDemo.h"
 
 #include "ByteFaults.h"
 
@@ -109,6 +110,11 @@ void readValue(const QString &fileName, const QString &tag, const QString &key, 
     if (value.line) value.text = readProfileString(tag, key, value.text, size, fileName);
 }
 } // namespace
+
+bool Step::isEnd() const
+{
+    return isNumber(tag) && (toNumber(tag) == EndTag || toNumber(tag) == EndWithDealerTag);
+}
 
 const Step *ScriptFile::step(const QString &tag) const
 {

@@ -29,6 +29,7 @@ struct Step {
     Value next = {};
     Value back = {};
 
+    bool isEnd() const; // of the tour, with the dealer's lines or without
     const Value &script(Way way) const { return way == Way::Forward ? next : back; }
     static QString key(Way way) { return way == Way::Forward ? QStringLiteral("NextRTF") : QStringLiteral("PrevRTF"); }
 };
