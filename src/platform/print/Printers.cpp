@@ -1,6 +1,7 @@
 #include "platform/print/Printers.h"
 
 #include "platform/print/queues/HandOver.h"
+#include "platform/print/queues/PrintService.h"
 #include "platform/system/CodePage1252.h"
 #include "platform/system/Host.h"
 #include "platform/system/RunTimeError.h"
@@ -55,8 +56,10 @@ QString deviceNameOf(const QString &queueName, std::set<QString> &taken)
     return name;
 }
 
+// The toolkit looks for the usual queue first, even for a file.
 std::unique_ptr<QPrinter> openPdfPrinter()
 {
+    const SilentServiceHidden hidden;
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setOutputFormat(QPrinter::PdfFormat);
     printer->setOutputFileName(pdfFileName());

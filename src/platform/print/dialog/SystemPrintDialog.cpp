@@ -4,6 +4,7 @@
 #include "platform/print/dialog/PrintChoice.h"
 #include "platform/print/dialog/PrintDialogWindow.h"
 #include "platform/print/dialog/WindowHandle.h"
+#include "platform/print/queues/PrintService.h"
 
 #include <QPrinter>
 #include <algorithm>
@@ -95,6 +96,7 @@ bool showSystemPrintDialog(PrintChoice &choice, quint32 owner)
     const auto printer = openPrinter(choice.deviceName);
     prepare(*printer, choice);
     const QString listedName = choice.deviceName == pdfPrinterName() ? choice.deviceName : printer->printerName();
+    const SilentServiceHidden hidden;
     PrintDialogWindow dialog(printer.get(), windowOfHandle(owner), listedName, choice.paperSize);
     prepare(dialog, choice);
     if (dialog.exec() != QDialog::Accepted) return false;

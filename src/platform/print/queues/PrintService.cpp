@@ -14,8 +14,9 @@ constexpr int AnyFamily = 0;
 constexpr int Blocking = 1;
 constexpr int Continue = 100; // more of the answer is to come
 constexpr int NoAnswer = -1;
-constexpr int LastGoodState = 7; // of the states that the service answers a request with
-constexpr char Stopped[] = "5";  // of the states of a queue
+constexpr int LastGoodState = 7;          // of the states that the service answers a request with
+constexpr char NoService[] = "/dev/null"; // refuses whoever connects to it
+constexpr char Stopped[] = "5";           // of the states of a queue
 constexpr double SecondsToWait = 3;
 constexpr int MillisecondsToWait = 3000;
 constexpr int MillisecondsOfSilence = 5000;
@@ -47,6 +48,7 @@ using Close = void (*)(Connection *);
 using Find = Destination *(*)(Connection *, const char *, const char *);
 using Tell = const char *(*)(const char *, int, Option *);
 using Forget = void (*)(int, Destination *);
+using SetServer = void (*)(const char *); // for this thread; nullptr is the one that the system is set up with
 using Text = const char *(*)();
 using Number = int (*)();
 
@@ -79,6 +81,11 @@ int answerOf(Connection *connection)
         state = read(connection);
     return state;
 }
+
+void setServer(const char *name)
+{
+    if (const auto set = entry<SetServer>("cupsSetServer")) set(name);
+}
 } // namespace
 
 bool printServiceAnswers()
@@ -92,6 +99,16 @@ bool printServiceAnswers()
     const bool answers = connection && answerOf(connection.get()) != NoAnswer;
     if (!answers && waited.hasExpired(MillisecondsToWait / 2)) silence.start();
     return answers;
+}
+
+SilentServiceHidden::SilentServiceHidden() : m_hidden(!printServiceAnswers())
+{
+    if (m_hidden) setServer(NoService);
+}
+
+SilentServiceHidden::~SilentServiceHidden()
+{
+    if (m_hidden) setServer(nullptr);
 }
 
 QString refusalOfLastJob()

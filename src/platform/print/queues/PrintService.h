@@ -11,6 +11,20 @@ namespace orvane
 // five: the toolkit would wait for ever.
 bool printServiceAnswers();
 
+// While it lives, a service that doesn't answer is hidden from the toolkit, which finds no queues then and doesn't
+// wait. Not for use within another one of the same thread.
+class SilentServiceHidden
+{
+public:
+    SilentServiceHidden();
+    ~SilentServiceHidden();
+    SilentServiceHidden(const SilentServiceHidden &) = delete;
+    SilentServiceHidden &operator=(const SilentServiceHidden &) = delete;
+
+private:
+    bool m_hidden;
+};
+
 // Why the service didn't take the job that this thread handed to it last, or nothing where it did.
 QString refusalOfLastJob();
 
