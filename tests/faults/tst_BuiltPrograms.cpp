@@ -102,7 +102,8 @@ void tst_BuiltPrograms::everySourceIsCompiledSo()
     QFile file(QStringLiteral(ORVANE_TOOLS_DIR "/../compile_commands.json"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     int sources = 0;
-    for (const QJsonValue &each : QJsonDocument::fromJson(file.readAll()).array()) {
+    const QJsonArray commands = QJsonDocument::fromJson(file.readAll()).array();
+    for (const auto each : commands) {
         if (!each[u"file"_s].toString().startsWith(QStringLiteral(ORVANE_SOURCE_DIR "/src/"))) continue;
         const QString command = each[u"command"_s].toString() + u' ';
         for (const QString &flag : {u" -fstack-protector-strong "_s, u" -fstack-clash-protection "_s, u" -fPI"_s,

@@ -5,6 +5,7 @@
 #include "platform/system/SettingsStore.h"
 #include "support/HelpUser.h"
 #include "support/PrintScheduler.h"
+#include "support/QueueHost.h"
 
 #include <QDirIterator>
 #include <QPainter>
@@ -126,16 +127,6 @@ void tst_PrivateFiles::theHelpsFolderIsTheOwners()
         QVERIFY2(isLocksAlone(left), qPrintable(left.join(u' ')));
     }
 }
-
-namespace
-{
-class QueueHost : public TestHost
-{
-public:
-    std::vector<InstalledPrinter> printQueues() override { return Host::printQueues(); }
-    std::unique_ptr<QPrinter> openQueue(const QString &queueName) override { return Host::openQueue(queueName); }
-};
-} // namespace
 
 void tst_PrivateFiles::aPrintJobIsTheOwnersUntilItIsHandedOver()
 {

@@ -32,7 +32,10 @@ public:
     {
         if (window()) window()->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        qputenv("XDG_CACHE_HOME", m_cacheBefore);
+        if (m_cacheBefore.isNull())
+            qunsetenv("XDG_CACHE_HOME");
+        else
+            qputenv("XDG_CACHE_HOME", m_cacheBefore);
     }
 
     HelpUser(const HelpUser &) = delete;

@@ -17,6 +17,7 @@ RunningSystem::RunningSystem()
     applyLooks(*static_cast<QApplication *>(QCoreApplication::instance()));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::clipboard()->clear();
+    if (!m_settings.isValid()) qFatal("no folder for the settings: the user's own would be taken");
     setSettingsFolder(m_settings.path());
     Shared() = SharedState();
     QStringList tags;

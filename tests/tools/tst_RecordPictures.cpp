@@ -153,7 +153,7 @@ void tst_RecordPictures::thePaletteFillsWhatIsBesideThePixels()
     QFETCH(QString, name);
     QFETCH(int, height);
     QFETCH(qint64, bytes);
-    const auto colours = quint32(bytes - 54 - 2 - 760 * height) / 4;
+    const auto colours = quint32(bytes - 54 - 2 - qint64(760) * height) / 4;
     QCOMPARE(numberAt<quint32>(bitmap(name), 46), colours);
     QCOMPARE(numberAt<quint32>(bitmap(name), 50), colours);
     QCOMPARE(numberAt<quint32>(bitmap(name), 10), 54 + 4 * colours);
@@ -201,7 +201,8 @@ void tst_RecordPictures::itIsDecodedAsItStands()
     QCOMPARE(image(name).format(), QImage::Format_Indexed8);
     const auto pixels = qsizetype(numberAt<quint32>(file, 10));
     for (const QPoint &place : {QPoint(0, 0), QPoint(100, 60), QPoint(759, height - 1)})
-        QCOMPARE(image(name).pixelIndex(place), int(uchar(file[pixels + (height - 1 - place.y()) * 760 + place.x()])));
+        QCOMPARE(image(name).pixelIndex(place),
+                 int(uchar(file[pixels + qsizetype(760) * (height - 1 - place.y()) + place.x()])));
 }
 
 void tst_RecordPictures::theCompletedFormIsFilledInAndTheBlankIsNot()

@@ -213,7 +213,7 @@ void tst_TourLint::aBarIsListedAsItIsTabled()
         QVERIFY2(at < listed.size() && listed[at][0] + u'_' + listed[at][1] == table, qPrintable(row));
         for (qsizetype column = 2; column < listed.front().size(); ++column) {
             const QString name = listed.front()[column];
-            const QString cell = cells[names.indexOf(name)];
+            const QString &cell = cells[names.indexOf(name)];
             if (cell != u"-") QCOMPARE(name + u' ' + listed[at][column], name + u' ' + unquoted(cell));
         }
         ++at;

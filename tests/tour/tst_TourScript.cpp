@@ -42,7 +42,7 @@ private slots:
     void everyTagThatAHandCanReachHasASection();
     void noSectionStandsTwice();
     void everyLineEndsAsInAProfileFile();
-    void everyByteIsACharacterOfTheCodePage();
+    void everyByteIsPlain();
     void nextLeadsFromTheFirstStepToTheEndWithoutALoop();
     void backLeadsFromTheLastStepToTheFirst();
     void everyStepLeadsOnToTheEnd_data() { addSteps(); }
@@ -100,9 +100,11 @@ void tst_TourScript::everyLineEndsAsInAProfileFile()
 }
 
 // The rich text writes what isn't ASCII as an escape, so that any editor keeps it.
-void tst_TourScript::everyByteIsACharacterOfTheCodePage()
+void tst_TourScript::everyByteIsPlain()
 {
-    for (const char byte : ShippedTour::bytes())
+    const QByteArray bytes = ShippedTour::bytes();
+    QVERIFY(!bytes.isEmpty());
+    for (const char byte : bytes)
         QVERIFY2((byte >= 32 && byte < 127) || byte == '\r' || byte == '\n', QByteArray(1, byte).toHex().constData());
 }
 

@@ -159,7 +159,7 @@ void tst_TourStepTexts::bytesOfAnyKindShowNone()
 
 void tst_TourStepTexts::aScriptBehindAHundredMegabytesIsRead()
 {
-    m_system->host.writeFile(u"DemoData.ini"_s, QByteArray(100 * 1024 * 1024, ';') + "\r\n" + step("127", "a", "b"));
+    m_system->host.writeFile(u"DemoData.ini"_s, QByteArray(100 << 20, ';') + "\r\n" + step("127", "a", "b"));
     ShowTourStep(u"127"_s);
     QCOMPARE(console().Tag(), u"127"_s);
     QCOMPARE(console().cmdGoNext.Tag(), u"a"_s);

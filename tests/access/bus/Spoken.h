@@ -45,7 +45,7 @@ struct Spoken {
     std::vector<const Spoken *> showing() const;
 
     // The first on show of that name, and of that role unless it is empty; nullptr where there is none.
-    const Spoken *find(const QString &name, const QString &role = {}) const;
+    const Spoken *find(const QString &wanted, const QString &wantedRole = {}) const;
     const Spoken *focused() const; // the innermost: a window is called so along with what is in it
 };
 

@@ -131,7 +131,7 @@ bool SpokenDesktop::startProgram()
 {
     endProgram();
     m_program = newProcess(QStringLiteral(ORVANE_TOOLS_DIR "/orvane"), {});
-    return QTest::qWaitFor([this] { return program().children.size() > 0; }, MillisecondsToStart);
+    return QTest::qWaitFor([this] { return !program().children.empty(); }, MillisecondsToStart);
 }
 
 // The frame refuses every close, so the program has to be told.

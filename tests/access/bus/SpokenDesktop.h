@@ -28,7 +28,6 @@ public:
 
     bool startProgram(); // up to the intro, with settings of its own
     bool programRuns() const { return m_program && m_program->state() == QProcess::Running; }
-    QByteArray programErrors() const { return m_program->readAllStandardError(); }
     void endProgram();
 
     const AccessBus &bus() const { return *m_bus; }

@@ -5,6 +5,7 @@
 #include "platform/print/dialog/PrintChoice.h"
 #include "platform/print/dialog/SystemPrintDialog.h"
 #include "support/PrintScheduler.h"
+#include "support/QueueHost.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -22,16 +23,6 @@ namespace
 {
 constexpr int A5Paper = 11;
 constexpr int Pages = 4;
-
-// The test's machine with the print queues of the system, which the system's host, past the test's, knows.
-class QueueHost : public TestHost
-{
-public:
-    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-    std::vector<InstalledPrinter> printQueues() override { return Host::printQueues(); }
-    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-    std::unique_ptr<QPrinter> openQueue(const QString &queueName) override { return Host::openQueue(queueName); }
-};
 
 // A document of four pages "Page 1" to "Page 4" in the preview.
 struct Document {
@@ -127,6 +118,8 @@ private slots:
     void aSchedulerThatIsGoneIsReported();
     void aSchedulerThatIsKilledDuringTheJobIsReported();
     void aSchedulerThatDoesNotAnswerHoldsNobodyUp();
+    void aFileIsPrintedWhileTheSchedulerDoesNotAnswer();
+    void theDialogComesUpWhileTheSchedulerDoesNotAnswer();
     void aSchedulerThatStopsDuringTheJobIsReported();
     void theDialogOffersTheQueues();
     void theDialogKeepsThePaper();
@@ -314,6 +307,31 @@ void tst_CupsQueue::aSchedulerThatDoesNotAnswerHoldsNobodyUp()
     QCOMPARE(failureOf(document), u"482 The printer \"Office\" is not there."_s);
     QCOMPARE(installedPrinters().size(), std::size_t(1));
     QVERIFY(!waited.hasExpired(Patience));
+}
+
+void tst_CupsQueue::aFileIsPrintedWhileTheSchedulerDoesNotAnswer()
+{
+    Document document;
+    m_scheduler->freeze();
+    document.on(pdfPrinterName()).PrintDoc(1, Pages);
+    QCOMPARE(readPdf(document.host.documentsFolder() + u"/Emergency plan.pdf"_s).size(), std::size_t(Pages));
+}
+
+void tst_CupsQueue::theDialogComesUpWhileTheSchedulerDoesNotAnswer()
+{
+    const QueueHost host;
+    PrintChoice choice;
+    choice.deviceName = pdfPrinterName();
+    m_scheduler->freeze();
+    QStringList offered;
+    inDialog([&](QWidget &dialog) {
+        const auto &printers = *dialog.findChild<QComboBox *>(u"printers"_s);
+        for (int index = 0; index < printers.count(); ++index)
+            offered << printers.itemText(index);
+    });
+    QVERIFY(showSystemPrintDialog(choice, 0));
+    QVERIFY(offered.contains(pdfPrinterName()));
+    QVERIFY(!offered.contains(u"Office"_s));
 }
 
 void tst_CupsQueue::aSchedulerThatStopsDuringTheJobIsReported()
