@@ -2,12 +2,10 @@
 // waits for it.
 #include "platform/print/PrintFixture.h"
 #include "platform/print/Printers.h"
+#include "support/NarrowDisk.h"
 #include "walk/Walker.h"
 
 #include <QDir>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
@@ -15,25 +13,6 @@ using namespace orvane::test;
 
 namespace
 {
-// No file may grow beyond this size, which looks to the program as a full disk does.
-class Room
-{
-public:
-    explicit Room(qint64 bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit room{static_cast<rlim_t>(bytes), m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &room);
-    }
-    ~Room() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    Room(const Room &) = delete;
-    Room &operator=(const Room &) = delete;
-
-private:
-    rlimit m_before{};
-};
-
 QStringList filesIn(const QString &folder)
 {
     return QDir(folder).entryList(QDir::Files | QDir::Hidden);
@@ -56,7 +35,7 @@ void tst_FullDisk::theTourIsWalkedToItsEnd()
     Walker walker;
     walker.start();
     walker.system().host.expectMessage(u"The help can't be shown: there is no room for its index."_s);
-    const Room none(0);
+    const NarrowDisk full(0);
     walker.walkTo({}, walker.console().cmdGoNext);
     QVERIFY(!QTest::currentTestFailed());
     walker.take(walker.console().cmdGoNext);
@@ -85,7 +64,7 @@ void tst_FullDisk::aDocumentThatHasNoRoomIsReported()
     host.expectAnyMessage();
     int error = 0;
     try {
-        const Room room(size * percent / 100);
+        const NarrowDisk disk(size * percent / 100);
         window.vs.PrintDoc(1, window.vs.PageCount());
     } catch (const RunTimeError &failure) {
         error = failure.Number();

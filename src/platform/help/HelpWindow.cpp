@@ -2,13 +2,12 @@
 
 #include "platform/help/HelpContentsPane.h"
 #include "platform/help/HelpIndexPane.h"
+#include "platform/help/HelpLibrary.h"
 #include "platform/help/HelpPage.h"
 #include "platform/help/HelpSearchPane.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
@@ -34,11 +33,11 @@ constexpr int IconSize = 16;
 } // namespace
 
 // Above the others, since the tour's console is too and would lie over it.
-HelpWindow::HelpWindow(const QString &helpFile)
-    : QMainWindow(nullptr, Qt::Window | Qt::WindowStaysOnTopHint), m_helpFile(helpFile), m_library(helpFile),
-      m_page(new HelpPage(m_library)), m_contents(new HelpContentsPane(m_library)),
-      m_index(new HelpIndexPane(m_library)), m_search(new HelpSearchPane(m_library)), m_tabs(new QTabWidget),
-      m_tools(addToolBar(QStringLiteral("Tools")))
+HelpWindow::HelpWindow(const QString &helpFile, Print print)
+    : QMainWindow(nullptr, Qt::Window | Qt::WindowStaysOnTopHint), m_helpFile(helpFile), m_print(std::move(print)),
+      m_library(std::make_unique<HelpLibrary>(helpFile)), m_page(new HelpPage(*m_library)),
+      m_contents(new HelpContentsPane(*m_library)), m_index(new HelpIndexPane(*m_library)),
+      m_search(new HelpSearchPane(*m_library)), m_tabs(new QTabWidget), m_tools(addToolBar(QStringLiteral("Tools")))
 {
     setObjectName(QStringLiteral("helpWindow"));
     setWindowTitle(QStringLiteral("orvane Help"));
@@ -49,7 +48,7 @@ HelpWindow::HelpWindow(const QString &helpFile)
     layOut();
     followPage();
     takeFirstPlace();
-    m_page->setSource(m_library.firstPage());
+    m_page->setSource(m_library->firstPage());
 }
 
 // What shows the pages goes before the pages do.
@@ -102,7 +101,7 @@ void HelpWindow::addTools()
     connect(&back, &QAction::triggered, m_page, &HelpPage::backward);
     connect(&forward, &QAction::triggered, m_page, &HelpPage::forward);
     connect(&contents, &QAction::triggered, this, &HelpWindow::showContents);
-    connect(&printer, &QAction::triggered, this, &HelpWindow::print);
+    connect(&printer, &QAction::triggered, this, [this] { m_print(*m_page->document(), *this); });
     connect(m_page, &HelpPage::backwardAvailable, &back, &QAction::setEnabled);
     connect(m_page, &HelpPage::forwardAvailable, &forward, &QAction::setEnabled);
 }
@@ -167,7 +166,7 @@ void HelpWindow::bringForward()
 void HelpWindow::showContents()
 {
     m_tabs->setCurrentWidget(m_contents);
-    m_page->setSource(m_library.firstPage());
+    m_page->setSource(m_library->firstPage());
     m_contents->takeFocus();
 }
 
@@ -175,16 +174,6 @@ void HelpWindow::showSearch()
 {
     m_tabs->setCurrentWidget(m_search);
     m_search->takeFocus();
-}
-
-void HelpWindow::print()
-{
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(m_page->documentTitle());
-    QPrintDialog dialog(&printer, this);
-    dialog.setObjectName(QStringLiteral("printHelp"));
-    dialog.setWindowTitle(QStringLiteral("Print Help"));
-    if (dialog.exec() == QDialog::Accepted) m_page->print(&printer);
 }
 
 } // namespace orvane

@@ -2,11 +2,12 @@
 // everything when it is closed.
 #pragma once
 
-#include "platform/help/HelpLibrary.h"
-
 #include <QMainWindow>
+#include <functional>
+#include <memory>
 
 class QTabWidget;
+class QTextDocument;
 class QToolBar;
 
 namespace orvane
@@ -14,6 +15,7 @@ namespace orvane
 
 class HelpContentsPane;
 class HelpIndexPane;
+class HelpLibrary;
 class HelpPage;
 class HelpSearchPane;
 
@@ -22,7 +24,10 @@ class HelpWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit HelpWindow(const QString &helpFile); // errors 53, 75 and 321, see WinHelp
+    // Prints a page for this window, and tells the user where that fails.
+    using Print = std::function<void(QTextDocument &page, const QWidget &owner)>;
+
+    HelpWindow(const QString &helpFile, Print print); // errors 53, 75 and 321, see WinHelp
     ~HelpWindow() override;
 
     const QString &helpFile() const { return m_helpFile; }
@@ -39,10 +44,10 @@ private:
     void addKeys();
     void followPage();
     void takeFirstPlace();
-    void print();
 
     QString m_helpFile;
-    HelpLibrary m_library;
+    Print m_print;
+    std::unique_ptr<HelpLibrary> m_library;
     HelpPage *m_page;
     HelpContentsPane *m_contents;
     HelpIndexPane *m_index;

@@ -1,6 +1,7 @@
 #include "platform/help/WinHelp.h"
 
 #include "platform/help/HelpWindow.h"
+#include "platform/print/TextPrinting.h"
 #include "platform/system/RunTimeError.h"
 
 #include <QPointer>
@@ -15,7 +16,7 @@ HelpWindow &windowOn(const QString &helpFile)
 {
     static QPointer<HelpWindow> open;
     if (open && !open->isHidden() && open->helpFile() == helpFile) return *open;
-    auto *window = new HelpWindow(helpFile);
+    auto *window = new HelpWindow(helpFile, &printText);
     if (open) open->close();
     open = window;
     return *window;

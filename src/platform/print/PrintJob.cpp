@@ -4,6 +4,7 @@
 #include "platform/print/PrintProgress.h"
 #include "platform/print/Printers.h"
 #include "platform/print/queues/PrintService.h"
+#include "platform/system/Host.h"
 #include "platform/system/RunTimeError.h"
 
 #include <QFileInfo>
@@ -77,9 +78,9 @@ std::unique_ptr<PdfFile> fileOf(const QPrinter &printer, const PrintJob &job)
     if (job.deviceName != pdfPrinterName() || isPdfFileChosen()) return PdfFile::chosen(printer.outputFileName());
     return PdfFile::named(QFileInfo(printer.outputFileName()).absolutePath(), job.title);
 }
-} // namespace
 
-QString printPages(const RecordedPages &pages, const PrintJob &job)
+// The queue that took the job; none for a file, and for a job that was cancelled.
+QString run(const RecordedPages &pages, const PrintJob &job)
 {
     const std::shared_ptr<QPrinter> printer = openPrinter(job.deviceName);
     setUp(*printer, job);
@@ -94,9 +95,17 @@ QString printPages(const RecordedPages &pages, const PrintJob &job)
     if (!paint(*painter, *printer, pages, job, progress)) return {};
     finishJob(printer, painter);
     if (file) file->keep();
-    if (queue.isEmpty() || !isQueuePaused(queue)) return {};
-    return QStringLiteral("The printer \"%1\" is paused. The document waits there until the printer is resumed.")
-        .arg(job.deviceName);
+    return queue;
+}
+} // namespace
+
+void printPages(const RecordedPages &pages, const PrintJob &job)
+{
+    const QString queue = run(pages, job);
+    if (queue.isEmpty() || !isQueuePaused(queue)) return;
+    MsgBox(QStringLiteral("The printer \"%1\" is paused. The document waits there until the printer is resumed.")
+               .arg(job.deviceName),
+           InformationIcon);
 }
 
 } // namespace orvane

@@ -18,7 +18,7 @@ struct PrintJob {
 };
 
 // The pages from and to are pages of the document. Error 482 where the printer or the file fails. A job that the user
-// cancels prints nothing. Says what a job that was taken waits for, or nothing where it doesn't wait.
-QString printPages(const RecordedPages &pages, const PrintJob &job);
+// cancels prints nothing. The user is told of a paused printer, which keeps the job.
+void printPages(const RecordedPages &pages, const PrintJob &job);
 
 } // namespace orvane

@@ -38,11 +38,15 @@ bool canBeWritten(const QString &folder)
     return place.isDir() && place.isWritable();
 }
 
-InstalledPrinter pdfPrinter()
+int usualPaperSize()
 {
     const bool imperial = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return {pdfPrinterName(), QStringLiteral("PDF"), QStringLiteral("FILE:"), false,
-            QPageSize::windowsId(imperial ? QPageSize::Letter : QPageSize::A4)};
+    return QPageSize::windowsId(imperial ? QPageSize::Letter : QPageSize::A4);
+}
+
+InstalledPrinter pdfPrinter()
+{
+    return {pdfPrinterName(), QStringLiteral("PDF"), QStringLiteral("FILE:"), false, usualPaperSize()};
 }
 
 QString deviceNameOf(const QString &queueName, std::set<QString> &taken)
@@ -91,6 +95,14 @@ std::vector<InstalledPrinter> installedPrinters()
     }
     if (canBeWritten(host().documentsFolder())) printers.push_back(pdfPrinter());
     return printers;
+}
+
+int ownPaperSize(const QString &deviceName)
+{
+    for (const InstalledPrinter &printer : installedPrinters())
+        if ((deviceName.isEmpty() || printer.deviceName == deviceName) && printer.paperSize > 0)
+            return printer.paperSize;
+    return usualPaperSize();
 }
 
 std::unique_ptr<QPrinter> openPrinter(const QString &deviceName)

@@ -17,6 +17,10 @@ namespace orvane
 // written: it is there, or can be made.
 std::vector<InstalledPrinter> installedPrinters();
 
+// By the published numbers: the paper of this printer, of the first that tells it where no name is given, or else what
+// is usual in the country.
+int ownPaperSize(const QString &deviceName);
+
 // A printer in full-page mode with the settings of its queue. Error 482 where there is no such printer (any more).
 std::unique_ptr<QPrinter> openPrinter(const QString &deviceName);
 

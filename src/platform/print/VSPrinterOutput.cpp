@@ -18,9 +18,7 @@ void VSPrinter::PrintDoc(int from, int to)
     if (m_recording.isOpen() || first > last)
         throw RunTimeError(InvalidProcedureCall, QStringLiteral("There are no such pages to print."));
     try {
-        const QString waits =
-            printPages(*m_recording.pages(), {printerName(), m_docName, first, last, m_copies, m_duplex});
-        if (!waits.isEmpty()) MsgBox(waits, InformationIcon);
+        printPages(*m_recording.pages(), {printerName(), m_docName, first, last, m_copies, m_duplex});
     } catch (const RunTimeError &error) {
         MsgBox(error.Description(), CriticalIcon); // who prints may ignore the failure
         throw;

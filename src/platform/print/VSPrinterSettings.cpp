@@ -8,7 +8,6 @@
 #include "platform/print/preview/PreviewView.h"
 #include "platform/system/RunTimeError.h"
 
-#include <QLocale>
 #include <QPageSize>
 #include <algorithm>
 
@@ -20,16 +19,6 @@ namespace
 void refuseUnless(bool good, const QString &why)
 {
     if (!good) throw RunTimeError(InvalidPropertyValue, why);
-}
-
-// What the printer takes, or else what is usual in the country.
-int ownPaperSize(const QString &deviceName)
-{
-    for (const InstalledPrinter &printer : installedPrinters())
-        if ((deviceName.isEmpty() || printer.deviceName == deviceName) && printer.paperSize > 0)
-            return printer.paperSize;
-    const bool imperial = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return QPageSize::windowsId(imperial ? QPageSize::Letter : QPageSize::A4);
 }
 } // namespace
 

@@ -1,14 +1,10 @@
-// The help window as a window: how it comes up, what its keys do, and how it prints.
+// The help window as a window: how it comes up, and what its keys do.
 #include "platform/system/RunTimeError.h"
 #include "support/HelpUser.h"
 
 #include <QAccessible>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QTabBar>
-#include <QTimer>
 #include <QWindow>
-#include <functional>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -41,11 +37,8 @@ private slots:
     void everyControlHasANameAndIsSpoken();
     void whatTakesTheFocusHasAName();
     void inASmallWindowNothingIsCutOff();
-    void theKeyBringsUpThePrintDialog();
-    void aPageIsPrinted();
 
 private:
-    static void inPrintDialog(const std::function<void()> &open, const std::function<void(QPrintDialog &)> &act);
     void openContents() const { m_user->openContents(); }
     void openSearch() const { m_user->openSearch(); }
 
@@ -262,54 +255,6 @@ void tst_HelpWindow::inASmallWindowNothingIsCutOff()
     const QTabBar *tabs = m_user->part<QTabWidget>(u"tabs"_s).tabBar();
     for (int i = 0; i < tabs->count(); ++i)
         QVERIFY(tabs->rect().contains(tabs->tabRect(i)));
-}
-
-// Acts on the print dialog once it is up, and leaves none open.
-void tst_HelpWindow::inPrintDialog(const std::function<void()> &open, const std::function<void(QPrintDialog &)> &act)
-{
-    bool cameUp = false;
-    QTimer watch;
-    connect(&watch, &QTimer::timeout, &watch, [&] {
-        auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible()) return;
-        watch.stop();
-        cameUp = true;
-        act(*dialog);
-    });
-    watch.start(1);
-    open();
-    QVERIFY(cameUp);
-}
-
-void tst_HelpWindow::theKeyBringsUpThePrintDialog()
-{
-    openContents();
-    QString title;
-    inPrintDialog([this] { m_user->press(Qt::Key_P, Qt::ControlModifier); },
-                  [&title](QPrintDialog &dialog) {
-                      title = dialog.windowTitle();
-                      QTest::keyClick(&dialog, Qt::Key_Escape);
-                  });
-    QCOMPARE(title, u"Print Help"_s);
-    QVERIFY(m_user->window());
-}
-
-void tst_HelpWindow::aPageIsPrinted()
-{
-    openContents();
-    m_user->goTo(u"keyboard.html"_s);
-    QString document;
-    inPrintDialog(
-        [this] { QTest::mouseClick(m_user->window()->findChild<QWidget *>(u"printButton"_s), Qt::LeftButton); },
-        [&](QPrintDialog &dialog) {
-            document = dialog.printer()->docName();
-            dialog.printer()->setOutputFormat(QPrinter::PdfFormat);
-            dialog.printer()->setOutputFileName(m_host->folder() + u"/paper.pdf"_s);
-            dialog.done(QDialog::Accepted);
-        });
-    QCOMPARE(document, u"All keys"_s);
-    const QByteArray sheets = m_host->readFile(u"paper.pdf"_s);
-    QVERIFY(sheets.startsWith("%PDF") && sheets.contains("/Type /Page"));
 }
 
 QTEST_MAIN(tst_HelpWindow)

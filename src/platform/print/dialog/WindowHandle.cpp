@@ -9,24 +9,21 @@
 namespace orvane
 {
 
-namespace
-{
-quint32 handleOf(const QWidget &window)
+quint32 hWnd(const QWidget &window)
 {
     return static_cast<quint32>(window.winId());
 }
-} // namespace
 
 quint32 hWnd(const Form &form)
 {
-    return handleOf(*form.shell().window());
+    return hWnd(*form.shell().window());
 }
 
 QWidget *windowOfHandle(quint32 handle)
 {
     const auto windows = QApplication::topLevelWidgets();
     const auto found = std::find_if(windows.begin(), windows.end(), [&](const QWidget *window) {
-        return window->isVisible() && handleOf(*window) == handle;
+        return window->isVisible() && hWnd(*window) == handle;
     });
     return found == windows.end() ? nullptr : *found;
 }

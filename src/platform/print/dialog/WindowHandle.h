@@ -10,6 +10,7 @@ namespace orvane
 
 class Form;
 
+quint32 hWnd(const QWidget &window);
 // Of the window itself, or of the frame that it stands in.
 quint32 hWnd(const Form &form);
 

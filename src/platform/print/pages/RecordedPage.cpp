@@ -2,7 +2,9 @@
 
 #include "platform/print/pages/Paragraph.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QPainter>
+#include <QTextDocument>
 
 namespace orvane
 {
@@ -11,6 +13,19 @@ namespace
 {
 constexpr double RuleWidth = 10; // half a point
 
+void drawSheet(QPainter &painter, const PlacedSheet &sheet)
+{
+    const QSizeF size = sheet.text->pageSize();
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.clip = QRectF({0, sheet.number * size.height()}, size);
+    context.palette.setColor(QPalette::Text, Qt::black); // whatever the screen's own is
+    painter.save();
+    painter.translate(sheet.place - context.clip.topLeft());
+    painter.setClipRect(context.clip);
+    sheet.text->documentLayout()->draw(&painter, context);
+    painter.restore();
+}
+
 // Rules and shades end on whole pixels, so that they are as sharp as the text.
 struct Draw {
     QPainter &painter;
@@ -18,6 +33,7 @@ struct Draw {
     void operator()(const FilledArea &item) const { painter.fillRect(item.area, item.colour); }
     void operator()(const Rule &item) const { painter.drawLine(item.line); }
     void operator()(const PlacedPicture &item) const { painter.drawImage(item.area, item.picture); }
+    void operator()(const PlacedSheet &item) const { drawSheet(painter, item); }
     void operator()(const PlacedLines &item) const
     {
         item.paragraph->draw(painter, item.place, item.firstLine, item.count);

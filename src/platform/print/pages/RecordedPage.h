@@ -12,6 +12,7 @@
 #include <vector>
 
 class QPainter;
+class QTextDocument;
 
 namespace orvane
 {
@@ -39,7 +40,14 @@ struct PlacedPicture {
     QImage picture;
 };
 
-using PageItem = std::variant<FilledArea, Rule, PlacedPicture, PlacedLines>;
+// One of the sheets of a text that is laid out in twips.
+struct PlacedSheet {
+    std::shared_ptr<const QTextDocument> text;
+    int number = 0; // from 0
+    QPointF place;
+};
+
+using PageItem = std::variant<FilledArea, Rule, PlacedPicture, PlacedLines, PlacedSheet>;
 
 struct RecordedPage {
     PageSetup setup;
