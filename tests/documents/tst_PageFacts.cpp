@@ -110,12 +110,13 @@ void tst_PageFacts::addDocuments()
     QTest::newRow("guide") << printedGuide();
 }
 
+// The tool asks questions, and gives no figure.
 void tst_PageFacts::everyFigureIsOnTheSheet()
 {
     QFETCH(QString, rtf);
     const QString sheet = factSheet();
     const QStringList figures = allMatches(Figure, plain(rtf));
-    QVERIFY(!figures.isEmpty());
+    QCOMPARE(figures.isEmpty(), QByteArray(QTest::currentDataTag()) == "tool");
     for (const QString &figure : figures)
         QVERIFY2(sheet.contains(QRegularExpression(u"\\b"_s + figure + u"\\b"_s)), qPrintable(figure));
 }
