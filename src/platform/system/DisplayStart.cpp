@@ -1,5 +1,6 @@
 #include "platform/system/DisplayStart.h"
 
+#include <QByteArray>
 #include <QtGlobal>
 
 #include <cstdlib>
