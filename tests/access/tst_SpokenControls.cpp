@@ -155,6 +155,7 @@ void tst_SpokenControls::theIntroSaysWhatItShowsAndHowToGoOn()
     QCOMPARE(QAccessible::queryAccessibleInterface(intro.focusWidget())->text(QAccessible::Name), name);
     QAccessibleInterface *spot = QAccessible::queryAccessibleInterface(&Default<frmInfo>().lblBtn.widget());
     QCOMPARE(spot->role(), QAccessible::Button);
+    QCOMPARE(spot->actionInterface()->actionNames(), QStringList{QAccessibleActionInterface::pressAction()});
     spot->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QTRY_COMPARE(m_stage->system.console().Tag(), u"101"_s);
 }

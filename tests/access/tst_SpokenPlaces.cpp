@@ -52,6 +52,7 @@ private slots:
     void theWayLeadsDownAndBack_data() { addScenes(); }
     void theWayLeadsDownAndBack();
     void theMenuOverATextIsItsWindowsChild();
+    void aMenuStaysItsWindowsChildWithASubMenuOpen();
     void aButtonTellsTheKeyThatPressesIt();
     void aButtonTakesTheFocusWhenAsked();
 
@@ -92,6 +93,32 @@ void tst_SpokenPlaces::theMenuOverATextIsItsWindowsChild()
     QCOMPARE(spokenOf(*surface)->child(before)->object(), menu);
     QCOMPARE(lostIn(*surface).join(u"; "_s), QString());
     menu->close();
+    QCOMPARE(spokenOf(*surface)->childCount(), before);
+}
+
+void tst_SpokenPlaces::aMenuStaysItsWindowsChildWithASubMenuOpen()
+{
+    m_stage->system.start();
+    frmCommandCentre &diagram = m_stage->system.diagram();
+    auto *surface = diagram.shell().findChild<FormSurface *>();
+    QVERIFY(surface);
+    surface->window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(surface->window()));
+    const int before = spokenOf(*surface)->childCount();
+    bool isSubMenu = false;
+    bool isChild = false;
+    const auto look = [&] {
+        QWidget *menu = QApplication::activePopupWidget();
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Right);
+        isSubMenu = QApplication::activePopupWidget() != menu;
+        isChild = spokenOf(*surface)->childCount() > before && spokenOf(*surface)->child(before)->object() == menu;
+        while (QWidget *popup = QApplication::activePopupWidget())
+            popup->close();
+    };
+    m_stage->system.whileModal([&] { diagram.drop24Steps(); }, look);
+    QVERIFY(isSubMenu);
+    QVERIFY(isChild);
     QCOMPARE(spokenOf(*surface)->childCount(), before);
 }
 
