@@ -138,7 +138,7 @@ void tst_FocusWalk::theFocusIsSomewhereAfterEachTool_data()
     QTest::addColumn<QString>("bar");
     for (int i = 0; i < std::ssize(windowScenes()); ++i) {
         const QByteArray name = windowScenes()[static_cast<size_t>(i)].name;
-        for (const QByteArray scene : {"implementation", "manual", "own manual", "procedure", "own procedure"})
+        for (const char *scene : {"implementation", "manual", "own manual", "procedure", "own procedure"})
             if (name == scene) {
                 QTest::addRow("%s, above", name.constData()) << i << u"mnuNav"_s;
                 QTest::addRow("%s, below", name.constData()) << i << u"mnuLinks"_s;

@@ -144,7 +144,8 @@ void tst_frmCommandCentre::loadShowsTheFirstPanelAndReportsBeforeAllElse()
 {
     console().setVisible(true);
     QStringList atTheReport;
-    connect(&console().rtf, &RichTextBox::Change, this, [&] {
+    const QObject context;
+    connect(&console().rtf, &RichTextBox::Change, &context, [&] {
         atTheReport << console().Tag() << boldTabs(diagram()) << QString::number(diagram().WindowState())
                     << QString::number(diagram().pnlDiag(5).Width());
     });

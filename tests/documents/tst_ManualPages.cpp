@@ -93,7 +93,7 @@ void tst_ManualPages::theCommitmentNamesTheCompanyThenTheProcedureOfAspects()
 
 void tst_ManualPages::theCommitmentLeadsToItsListWithFollowing()
 {
-    QVERIFY(pageblocks::ofKind(manualCommitment(), u"text"_s).last().endsWith(u" following:"_s));
+    QVERIFY(pageblocks::ofKind(manualCommitment(), u"text"_s).constLast().endsWith(u" following:"_s));
 }
 
 void tst_ManualPages::theCommitmentEndsInBold()

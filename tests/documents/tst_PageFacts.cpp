@@ -275,7 +275,8 @@ void tst_PageFacts::noSentenceStandsTwice()
 void tst_PageFacts::textIsWithinTheCodePage()
 {
     QFETCH(QString, rtf);
-    for (const QChar c : plain(rtf))
+    const QString text = plain(rtf);
+    for (const QChar c : text)
         QVERIFY2(c == u'\n' || CodePage1252::hasCode(c), qPrintable(QString(c)));
 }
 

@@ -43,12 +43,16 @@ const QMap<QString, Printed> &documents()
     return all;
 }
 
-const QStringList GuideHeadings{u"The Requirement in brief......."_s,
-                                u"Do I need a Procedure?......."_s,
-                                u"Implementation action......."_s,
-                                u"orvane advice......."_s,
-                                u"HOT TIPS!!......."_s,
-                                u"Related topics......."_s};
+QStringList guideHeadings()
+{
+    return {u"The Requirement in brief......."_s,
+            u"Do I need a Procedure?......."_s,
+            u"Implementation action......."_s,
+            u"orvane advice......."_s,
+            u"HOT TIPS!!......."_s,
+            u"Related topics......."_s};
+}
+
 } // namespace
 
 class tst_PrintedPages : public QObject
@@ -80,7 +84,8 @@ private:
 void tst_PrintedPages::addDocuments()
 {
     QTest::addColumn<QString>("document");
-    for (const QString &name : documents().keys())
+    const QStringList names = documents().keys();
+    for (const QString &name : names)
         QTest::addRow("%s", qPrintable(name)) << name;
 }
 
@@ -99,7 +104,7 @@ void tst_PrintedPages::headingsStandInOrderAndOnce_data()
     QTest::addColumn<QString>("rtf");
     QTest::addColumn<QString>("kind");
     QTest::addColumn<QStringList>("headings");
-    QTest::newRow("guide") << printedGuide() << u"28i"_s << GuideHeadings;
+    QTest::newRow("guide") << printedGuide() << u"28i"_s << guideHeadings();
     QTest::newRow("the guide's title") << printedGuide() << u"30"_s
                                        << QStringList(u"Step 17 Emergency Preparedness and Response"_s);
     QTest::newRow("the guide's section of the standard")
@@ -144,7 +149,7 @@ void tst_PrintedPages::theGuideHasItsShape()
 void tst_PrintedPages::aGuideHeadingIsBoldItalicWithDots()
 {
     const QString rtf = printedGuide();
-    for (const QString &heading : GuideHeadings)
+    for (const QString &heading : guideHeadings())
         QCOMPARE(rtf.count(uR"(\par \plain\f2\fs28\b\i )"_s + heading + uR"(\par )"_s), 1);
 }
 
@@ -212,11 +217,11 @@ void tst_PrintedPages::theProductWordIsLargerInTheAdvice()
 
 void tst_PrintedPages::relatedTopicsNameTheDocumentsOfTheStep()
 {
-    QCOMPARE(pageblocks::ofKind(printedGuide(), u"bullet360"_s).last(4),
-             (QStringList{u"Environment Manual, section 4.4.7:  Emergency Preparedness and Response"_s,
-                          u"Management Procedure, C11:  Emergency Planning"_s,
-                          u"Action Tool, T1.C11:  Key Points to Include in Emergency Plans"_s,
-                          u"Record, R1.C11:  Emergency Plan"_s}));
+    const QStringList bullets = pageblocks::ofKind(printedGuide(), u"bullet360"_s);
+    QCOMPARE(bullets.last(4), (QStringList{u"Environment Manual, section 4.4.7:  Emergency Preparedness and Response"_s,
+                                           u"Management Procedure, C11:  Emergency Planning"_s,
+                                           u"Action Tool, T1.C11:  Key Points to Include in Emergency Plans"_s,
+                                           u"Record, R1.C11:  Emergency Plan"_s}));
 }
 
 void tst_PrintedPages::theToolIsPrintedAsItStands()

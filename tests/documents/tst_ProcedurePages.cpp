@@ -17,10 +17,14 @@ QString title(const QString &name)
     return uR"(\deflang1033\pard\plain\f2\fs28\b )"_s + name;
 }
 
-const QStringList Roles{u"Executive Board"_s,     u"Vice President (VP)-Manufacturing"_s,
-                        u"Department Managers"_s, u"Human Resources Manager"_s,
-                        u"Environment Manager"_s, u"Maintenance Manager"_s,
-                        u"Supervisors"_s,         u"All Personnel"_s};
+QStringList roles()
+{
+    return {u"Executive Board"_s,     u"Vice President (VP)-Manufacturing"_s,
+            u"Department Managers"_s, u"Human Resources Manager"_s,
+            u"Environment Manager"_s, u"Maintenance Manager"_s,
+            u"Supervisors"_s,         u"All Personnel"_s};
+}
+
 } // namespace
 
 class tst_ProcedurePages : public QObject
@@ -113,7 +117,7 @@ void tst_ProcedurePages::aPageHasItsBoldWords_data()
     QTest::addColumn<QString>("page");
     QTest::addColumn<QStringList>("words");
     QTest::newRow("Aim") << procedureAim() << QStringList{u"Each"_s, u"Emergency Plan"_s};
-    QTest::newRow("Responsibility") << procedureResponsibility() << Roles;
+    QTest::newRow("Responsibility") << procedureResponsibility() << roles();
     QTest::newRow("Method") << procedureMethod() << QStringList{u"Incident"_s, u"Accident"_s, u"Emergency"_s};
     QTest::newRow("Records") << procedureRecords() << QStringList();
     QTest::newRow("References") << procedureReferences() << QStringList();
@@ -136,7 +140,7 @@ void tst_ProcedurePages::theAimLeadsToItsTwoLists()
 
 void tst_ProcedurePages::rolesStandInTheirOrder()
 {
-    QCOMPARE(pageblocks::ofKind(procedureResponsibility(), u"bold"_s), Roles);
+    QCOMPARE(pageblocks::ofKind(procedureResponsibility(), u"bold"_s), roles());
 }
 
 void tst_ProcedurePages::theMethodIsNumberedFromOneToSixteen()

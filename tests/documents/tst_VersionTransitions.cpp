@@ -24,15 +24,22 @@ struct Outcome {
     QStringList fields = masterFields();
 };
 
-const QStringList RepairedShort{u"2b"_s, u"11/21/2026"_s, u"M Serrano"_s};
-const QStringList RepairedLong{u"2b"_s, u"November 21, 2026"_s, u"M Serrano"_s};
+QStringList repairedShort()
+{
+    return {u"2b"_s, u"11/21/2026"_s, u"M Serrano"_s};
+}
+
+QStringList repairedLong()
+{
+    return {u"2b"_s, u"November 21, 2026"_s, u"M Serrano"_s};
+}
 
 const Outcome Read{MasterClean, Page::First};
 const Outcome ReadSecond{MasterClean, Page::Second};
 const Outcome Edited{OwnClean, Page::First};
 const Outcome EditedSecond{OwnClean, Page::Second};
 const Outcome Typed{OwnDirty, Page::FirstTyped, typedFields()};
-const Outcome SavedAsTyped{OwnClean, Page::FirstTyped, RepairedShort};
+const Outcome SavedAsTyped{OwnClean, Page::FirstTyped, repairedShort()};
 
 void bring(const VersionedSystem &open, From from)
 {
@@ -154,13 +161,13 @@ void tst_VersionTransitions::addOwnRows()
 void tst_VersionTransitions::addTypedRows()
 {
     const Outcome pagedInManual{OwnDirtyUnsaveable, Page::FirstTyped};
-    const Outcome pagedInProcedures{OwnClean, Page::FirstTyped, RepairedLong};
+    const Outcome pagedInProcedures{OwnClean, Page::FirstTyped, repairedLong()};
     addRows("Mode", From::OwnTyped, mode, Read);
     addRows("Save", From::OwnTyped, save, Typed, SavedAsTyped);
     addRows("page tool", From::OwnTyped, secondPage, {OwnDirtyUnsaveable, Page::Second},
-            {OwnClean, Page::Second, RepairedLong});
+            {OwnClean, Page::Second, repairedLong()});
     addRows("tool of the page on show", From::OwnTyped, samePage, {OwnDirtyUnsaveable, Page::First},
-            {OwnClean, Page::First, RepairedLong});
+            {OwnClean, Page::First, repairedLong()});
     addRows("First", From::OwnTyped, paging("First"), pagedInManual, pagedInProcedures);
     addRows("Prev", From::OwnTyped, paging("Prev"), pagedInManual, pagedInProcedures);
     addRows("Next", From::OwnTyped, paging("Next"), pagedInManual, pagedInProcedures);

@@ -274,9 +274,9 @@ void tst_Versions::aPageChangeInMasterResetsTheFieldsOfTheManual()
 {
     QFETCH(Sister, sister);
     VersionedSystem open(sister);
-    open.window->txtIssue.setText(typedFields()[0]);
-    open.window->txtDate.setText(typedFields()[1]);
-    open.window->txtAuthorized.setText(typedFields()[2]);
+    open.window->txtIssue.setText(typedFields().at(0));
+    open.window->txtDate.setText(typedFields().at(1));
+    open.window->txtAuthorized.setText(typedFields().at(2));
     open.pressPaging(u"First"_s);
     QCOMPARE(open.fields(), sister == Sister::Manual ? masterFields() : typedFields());
 }

@@ -27,7 +27,7 @@ private:
 
 namespace
 {
-const QByteArray twoVersions = "# Changelog\n\nThe newest first.\n\n## 1.1, 2026-12-03\n\n### Added\n\n- One thing\n"
+constexpr char TwoVersions[] = "# Changelog\n\nThe newest first.\n\n## 1.1, 2026-12-03\n\n### Added\n\n- One thing\n"
                                "  and more of it.\n\n### Fixed\n\n- Another.\n\n## 1.0, 2026-12-01\n\n- The first.\n";
 } // namespace
 
@@ -51,7 +51,7 @@ QByteArray tst_Changelog::tell(const QString &form, const QByteArray &changelog)
 
 void tst_Changelog::debianHasAnEntryForEachVersion()
 {
-    QCOMPARE(tell(u"debian"_s, twoVersions),
+    QCOMPARE(tell(u"debian"_s, TwoVersions),
              QByteArray("orvane (1.1) unstable; urgency=medium\n\n  * One thing and more of it.\n  * Another.\n\n"
                         " -- Some Body <some@body.example>  Thu, 03 Dec 2026 12:00:00 +0000\n\n"
                         "orvane (1.0) unstable; urgency=medium\n\n  * The first.\n\n"
@@ -72,7 +72,7 @@ void tst_Changelog::aLongEntryIsFolded()
 
 void tst_Changelog::aReleaseHasItsDay()
 {
-    QCOMPARE(tell(u"releases"_s, twoVersions),
+    QCOMPARE(tell(u"releases"_s, TwoVersions),
              QByteArray("    <release version=\"1.1\" date=\"2026-12-03\" type=\"stable\"/>\n"
                         "    <release version=\"1.0\" date=\"2026-12-01\" type=\"stable\"/>\n"));
 }
@@ -85,7 +85,7 @@ void tst_Changelog::anUnreleasedVersionHasTheDayOfTheBuild()
 
 void tst_Changelog::theNoteIsTheNewestSection()
 {
-    QCOMPARE(tell(u"note"_s, twoVersions),
+    QCOMPARE(tell(u"note"_s, TwoVersions),
              QByteArray("# orvane 1.1\n\nReleased on 2026-12-03.\n\n### Added\n\n- One thing\n"
                         "  and more of it.\n\n### Fixed\n\n- Another.\n\n"));
 }
@@ -98,7 +98,7 @@ void tst_Changelog::aFileWithoutAVersionIsRefused()
 
 void tst_Changelog::wrongUseIsRefused()
 {
-    QVERIFY(tell(u"poem"_s, twoVersions).startsWith("Usage: changelog.sh "));
+    QVERIFY(tell(u"poem"_s, TwoVersions).startsWith("Usage: changelog.sh "));
     QCOMPARE(m_exitCode, 2);
 }
 

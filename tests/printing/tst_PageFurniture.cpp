@@ -161,7 +161,8 @@ void tst_PageFurniture::theSecondRowOfTheHeadIsShaded()
 void tst_PageFurniture::thePageNumberFollowsThePageInTheWorks()
 {
     QStringList numbers;
-    connect(&vs(), &VSPrinter::FooterBand, this, [&] { numbers << open().tool(u"PageNumber"_s).Text(); });
+    const QObject context;
+    connect(&vs(), &VSPrinter::FooterBand, &context, [&] { numbers << open().tool(u"PageNumber"_s).Text(); });
     open().preview(GuideModule);
     QVERIFY(numbers.size() > 1);
     for (qsizetype page = 0; page < numbers.size(); ++page)

@@ -380,9 +380,10 @@ void tst_PreviewTools::thePreviewGoesAfterItsReport()
     open().preview(ManualModule);
     QList<bool> wholeAtReport;
     QList<bool> visibleAsEntryWent;
-    connect(&open().system.console().txtTag, &TextBox::Change, this,
+    const QObject context;
+    connect(&open().system.console().txtTag, &TextBox::Change, &context,
             [&] { wholeAtReport << (open().window().Visible() && isInWindowMenu()); });
-    connect(&open().system.frame().mnuMain, &ActiveBar::Changed, this, [&] {
+    connect(&open().system.frame().mnuMain, &ActiveBar::Changed, &context, [&] {
         if (visibleAsEntryWent.isEmpty() && !isInWindowMenu()) visibleAsEntryWent << open().window().Visible();
     });
     if (byTool)

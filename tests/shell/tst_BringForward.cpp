@@ -11,8 +11,8 @@ using namespace orvane::test;
 
 namespace
 {
-const QString GuideTag = QStringLiteral("[Implementation Guide] - Using this Guide");
-const QString ManualTag = QStringLiteral("[Environmental Manual] - Scope");
+const QString GuideTag = u"[Implementation Guide] - Using this Guide"_s;
+const QString ManualTag = u"[Environmental Manual] - Scope"_s;
 
 Form &guide()
 {

@@ -15,7 +15,7 @@ using namespace orvane::test;
 
 namespace
 {
-const QString GuideTag = QStringLiteral("[Implementation Guide] - Using this Guide");
+const QString GuideTag = u"[Implementation Guide] - Using this Guide"_s;
 } // namespace
 
 class tst_MenuCommands : public QObject

@@ -15,8 +15,8 @@ Q_DECLARE_METATYPE(Opener)
 
 namespace
 {
-const QString GuideTag = QStringLiteral("[Implementation Guide] - Using this Guide");
-const QString ManualTag = QStringLiteral("[Environmental Manual] - Scope");
+const QString GuideTag = u"[Implementation Guide] - Using this Guide"_s;
+const QString ManualTag = u"[Environmental Manual] - Scope"_s;
 
 int countModules()
 {

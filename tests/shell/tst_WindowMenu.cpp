@@ -395,7 +395,7 @@ void tst_WindowMenu::afterTheFirstOfTwoIsClosedTheSecondIsNumberOne()
     windowByTag(u"[Implementation Guide] - Using this Guide"_s)->Unload();
     QCOMPARE(captions(), QStringList{u"&1 [Environmental Manual] - Scope"_s});
     OpenTools(u"Ideas"_s, u"406"_s);
-    QCOMPARE(captions().last(), u"&2 [Action Tools] - Ideas"_s);
+    QCOMPARE(captions().constLast(), u"&2 [Action Tools] - Ideas"_s);
     QCOMPARE(lastTool().Id(), 35002);
 }
 

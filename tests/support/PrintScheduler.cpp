@@ -18,11 +18,14 @@ namespace
 constexpr int MillisecondsToStart = 20000; // longer than one that didn't answer is left alone
 constexpr int MillisecondsForAJob = 30000;
 
-const QStringList SystemFolders{u"/usr/sbin"_s, u"/usr/bin"_s, u"/sbin"_s, u"/bin"_s};
+QStringList systemFolders()
+{
+    return {u"/usr/sbin"_s, u"/usr/bin"_s, u"/sbin"_s, u"/bin"_s};
+}
 
 QString programPath(const QString &name)
 {
-    return QStandardPaths::findExecutable(name, SystemFolders);
+    return QStandardPaths::findExecutable(name, systemFolders());
 }
 
 bool isRoot()
@@ -170,7 +173,7 @@ KeptJob PrintScheduler::nextJob()
         QTest::qFail("no job came to the device", __FILE__, __LINE__);
         return {};
     }
-    const QString number = QFileInfo(jobs.entryList({u"*.pdf"_s}).front()).baseName();
+    const QString number = QFileInfo(jobs.entryList({u"*.pdf"_s}).constFirst()).baseName();
     QFile note(jobs.filePath(number + u".txt"_s));
     (void)note.open(QIODevice::ReadOnly);
     const QStringList lines = QString::fromUtf8(note.readAll()).split(u'\n');
@@ -188,7 +191,7 @@ QString PrintScheduler::nextPdf(const QString &queue)
         QTest::qFail("no file came from the PDF printer", __FILE__, __LINE__);
         return {};
     }
-    return files.filePath(names().front());
+    return files.filePath(names().constFirst());
 }
 
 } // namespace orvane::test

@@ -63,7 +63,7 @@ void TestHost::removeFile(const QString &name) const
 
 void TestHost::advance(int milliseconds)
 {
-    for (auto [number, due] : std::map(m_timers)) { // a tick may start and stop timers
+    for (const auto &[number, due] : std::map(m_timers)) { // a tick may start and stop timers
         if (!m_timers.contains(number)) continue;
         Due &timer = m_timers.at(number);
         timer.left -= milliseconds;

@@ -78,7 +78,7 @@ void tst_DealerText::theKeyIsTriangular()
     QFETCH(int, key);
     const QByteArray scrambled = ScrambleDealerData(QString(200, u'A'));
     QCOMPARE(int(scrambled[position - 1]), 'A' + key);
-    QCOMPARE(UnscrambleDealerData(asRead(QByteArray(200, 'z')))[position - 1], QChar('z' - key));
+    QCOMPARE(UnscrambleDealerData(asRead(QByteArray(200, 'z'))).at(position - 1), QChar('z' - key));
 }
 
 void tst_DealerText::theKeyDependsOnThePositionAlone()

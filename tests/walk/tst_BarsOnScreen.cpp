@@ -156,7 +156,8 @@ private:
 void tst_BarsOnScreen::addBars()
 {
     QTest::addColumn<QString>("bar");
-    for (const QString &bar : layouts::bars().keys())
+    const QStringList bars = layouts::bars().keys();
+    for (const QString &bar : bars)
         QTest::newRow(qPrintable(bar)) << bar;
 }
 

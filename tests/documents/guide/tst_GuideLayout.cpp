@@ -85,7 +85,8 @@ QString words(const Boxes &boxes, const QString &name)
 
 void compareBoxes(const Boxes &actual, const Boxes &expected)
 {
-    for (const QString &name : expected.keys())
+    const QStringList names = expected.keys();
+    for (const QString &name : names)
         QCOMPARE(words(actual, name), words(expected, name));
 }
 

@@ -123,7 +123,8 @@ private:
 void tst_GuidePageLooks::addViews()
 {
     QTest::addColumn<QString>("view");
-    for (const QString &view : views().keys())
+    const QStringList all = views().keys();
+    for (const QString &view : all)
         QTest::addRow("%s", qPrintable(view)) << view;
 }
 

@@ -203,7 +203,7 @@ void tst_ActiveBarMenus::addedToolsAreThereWhenTheMenuOpensAgain()
     tools.Add(35001, u"Command Center"_s).setCaption(u"&2 Command Center"_s);
     menu = open.openByMouse(u"mnuWindow"_s);
     QCOMPARE(menu->actions().size(), 2);
-    QCOMPARE(menu->actions().last()->text(), u"&2 Command Center"_s);
+    QCOMPARE(menu->actions().constLast()->text(), u"&2 Command Center"_s);
 }
 
 void tst_ActiveBarMenus::aBandWithoutToolsOpensNothing()
@@ -242,7 +242,7 @@ void tst_ActiveBarMenus::aToolThatComesOrGoesIsSeenInAnOpenMenu()
     tools.Remove(1);
     tools.Add(35000, u"New"_s).setCaption(u"New"_s);
     QVERIFY(!entry(*file, u"properties"_s));
-    QCOMPARE(file->actions().last()->text(), u"New"_s);
+    QCOMPARE(file->actions().constLast()->text(), u"New"_s);
     QCOMPARE(entry(*file, u"exit"_s), kept);
 }
 

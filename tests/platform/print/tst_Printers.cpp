@@ -133,7 +133,7 @@ void tst_Printers::aLongNameIsCut()
 {
     TestHost host;
     host.setPrintQueues({simple(longName({}))});
-    QCOMPARE(deviceNames().front(), QString(31, u'n'));
+    QCOMPARE(deviceNames().constFirst(), QString(31, u'n'));
 }
 
 void tst_Printers::cutNamesAreToldApart()
@@ -157,7 +157,7 @@ void tst_Printers::aNameOutsideTheCodePageIsSubstituted()
 {
     TestHost host;
     host.setPrintQueues({simple(QString::fromUtf8("B\xC3\xBCro \xD0\x96"))});
-    QCOMPARE(deviceNames().front(), QString::fromUtf8("B\xC3\xBCro ?"));
+    QCOMPARE(deviceNames().constFirst(), QString::fromUtf8("B\xC3\xBCro ?"));
 }
 
 void tst_Printers::theDefaultPrinterIsTheFirst()
@@ -300,7 +300,7 @@ void tst_Printers::aCutNameOpensItsQueue()
 {
     TestHost host;
     host.setPrintQueues({simple(longName(u"a"_s)), simple(longName(u"b"_s))});
-    QCOMPARE(openPrinter(deviceNames()[1])->outputFileName(), host.printedFile(longName(u"b"_s)));
+    QCOMPARE(openPrinter(deviceNames().at(1))->outputFileName(), host.printedFile(longName(u"b"_s)));
 }
 
 void tst_Printers::aWrittenFileIsConfirmed()

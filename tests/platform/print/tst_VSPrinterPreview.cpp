@@ -324,7 +324,8 @@ void tst_VSPrinterPreview::aClickOnAScrollBarScrolls()
     QFETCH(int, aboveEnd);
     showLarge();
     QList<int> places;
-    connect(&vs(), &VSPrinter::ViewScrolled, this, [&] { places << bar().value(); });
+    const QObject context;
+    connect(&vs(), &VSPrinter::ViewScrolled, &context, [&] { places << bar().value(); });
     QTest::mouseClick(&bar(), Qt::LeftButton, {}, {bar().width() / 2, bar().height() - aboveEnd});
     QVERIFY(bar().value() > 0);
     QCOMPARE(places, QList<int>{bar().value()});

@@ -22,11 +22,23 @@ namespace
 const QString Application = u"orvane Quillmark CD"_s;
 const QString Section = u"UserDetails"_s;
 constexpr uid_t Nobody = 65534;
-QString settingsFolderOfTheTest;
+
+QString &settingsFolderOfTheTest()
+{
+    static QString folder;
+    return folder;
+}
 
 // Long enough to be written in several pieces.
-const QString Before(30'000, u'o');
-const QString After(40'000, u'n');
+QString textBefore()
+{
+    return QString(30'000, u'o');
+}
+
+QString textAfter()
+{
+    return QString(40'000, u'n');
+}
 
 void save(const QString &name)
 {
@@ -47,8 +59,8 @@ void limitFileSize(rlim_t bytes, void (*onReached)(int))
 void saveAsNobody()
 {
     if (geteuid() == 0 && setuid(Nobody) != 0) _exit(2);
-    setSettingsFolder(settingsFolderOfTheTest + u"/."_s);
-    save(After);
+    setSettingsFolder(settingsFolderOfTheTest() + u"/."_s);
+    save(textAfter());
 }
 
 // Runs in a process of its own, and gives what waitpid tells of it.
@@ -69,9 +81,9 @@ int inOwnProcess(Act act)
 [[noreturn]] void saveForEver(int pipeEnd)
 {
     for (;;) {
-        save(After);
+        save(textAfter());
         if (write(pipeEnd, "", 1) != 1) _exit(1);
-        save(Before);
+        save(textBefore());
         if (write(pipeEnd, "", 1) != 1) _exit(1);
     }
 }
@@ -123,9 +135,9 @@ private:
 void tst_SettingsSafety::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    settingsFolderOfTheTest = m_folder->path();
+    settingsFolderOfTheTest() = m_folder->path();
     setSettingsFolder(m_folder->path());
-    save(Before);
+    save(textBefore());
     SaveSetting(Application, Section, u"Company"_s, u"Global Inc"_s);
 }
 
@@ -174,14 +186,14 @@ void tst_SettingsSafety::aFullDiskKeepsTheOldValue()
     const QByteArray before = bytes();
     const int status = inOwnProcess([size] {
         limitFileSize(size, SIG_IGN);
-        save(After);
+        save(textAfter());
     });
     QVERIFY(WIFEXITED(status)); // and nothing was reported
     QVERIFY(bytes() == before);
-    QVERIFY(nameOnDisk() == Before);
+    QVERIFY(nameOnDisk() == textBefore());
     QCOMPARE(files(), QStringList{Application + u".ini"_s});
-    save(After);
-    QVERIFY(nameOnDisk() == After);
+    save(textAfter());
+    QVERIFY(nameOnDisk() == textAfter());
 }
 
 void tst_SettingsSafety::anEndInTheMiddleOfAWriteKeepsTheOldValue_data()
@@ -195,12 +207,12 @@ void tst_SettingsSafety::anEndInTheMiddleOfAWriteKeepsTheOldValue()
     const QByteArray before = bytes();
     const int status = inOwnProcess([size] {
         limitFileSize(size, SIG_DFL);
-        save(After);
+        save(textAfter());
     });
     QVERIFY(WIFSIGNALED(status));
     QVERIFY(bytes() == before);
-    save(After); // what the ended process had locked doesn't stand in the way
-    QVERIFY(nameOnDisk() == After);
+    save(textAfter()); // what the ended process had locked doesn't stand in the way
+    QVERIFY(nameOnDisk() == textAfter());
 }
 
 void tst_SettingsSafety::aKillAtAnyMomentLeavesTheOldOrTheNewValue()
@@ -210,7 +222,8 @@ void tst_SettingsSafety::aKillAtAnyMomentLeavesTheOldOrTheNewValue()
     for (int i = 0; i < Kills; ++i) {
         killWhileSaving(1 + i % 2, i * TurnsApart);
         const QString name = nameOnDisk();
-        QVERIFY2(name == Before || name == After, qPrintable(u"kill %1: %2 characters"_s.arg(i).arg(name.size())));
+        QVERIFY2(name == textBefore() || name == textAfter(),
+                 qPrintable(u"kill %1: %2 characters"_s.arg(i).arg(name.size())));
     }
     save(u"Ada"_s);
     QCOMPARE(nameOnDisk(), u"Ada"_s);

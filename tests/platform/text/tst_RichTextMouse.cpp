@@ -61,7 +61,8 @@ void tst_RichTextMouse::mouseUpTellsButtonShiftAndPlace()
     QFETCH(int, number);
     QFETCH(int, shift);
     QList<Mouse> told;
-    connect(&box(), &RichTextBox::MouseUp, this, [&](int theButton, int theShift, float x, float y) {
+    const QObject context;
+    connect(&box(), &RichTextBox::MouseUp, &context, [&](int theButton, int theShift, float x, float y) {
         told.push_back({theButton, theShift, x, y});
     });
     show();
@@ -73,7 +74,8 @@ void tst_RichTextMouse::mouseUpTellsButtonShiftAndPlace()
 void tst_RichTextMouse::mouseMoveTellsWhatIsHeld()
 {
     QList<Mouse> told;
-    connect(&box(), &RichTextBox::MouseMove, this, [&](int button, int shift, float x, float y) {
+    const QObject context;
+    connect(&box(), &RichTextBox::MouseMove, &context, [&](int button, int shift, float x, float y) {
         told.push_back({button, shift, x, y});
     });
     show();
@@ -90,8 +92,9 @@ void tst_RichTextMouse::mouseMoveTellsWhatIsHeld()
 void tst_RichTextMouse::clickComesBeforeMouseUpAndForTheLeftButtonOnly()
 {
     QStringList told;
-    connect(&box(), &RichTextBox::Click, this, [&] { told << u"Click"_s; });
-    connect(&box(), &RichTextBox::MouseUp, this, [&] { told << u"MouseUp"_s; });
+    const QObject context;
+    connect(&box(), &RichTextBox::Click, &context, [&] { told << u"Click"_s; });
+    connect(&box(), &RichTextBox::MouseUp, &context, [&] { told << u"MouseUp"_s; });
     show();
     QTest::mouseClick(&box().mouseTarget(), Qt::LeftButton, {}, QPoint(20, 30));
     QCOMPARE(told, (QStringList{u"Click"_s, u"MouseUp"_s}));
