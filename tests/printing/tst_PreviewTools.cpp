@@ -1,11 +1,9 @@
-// The preview's window and tools: zoom, pages, page setup, printing, closing.
+// The preview's window and tools: zoom, pages, page setup, printing.
 #include "platform/controls/pictures/PictureBox.h"
 #include "platform/print/DefaultPrinter.h"
 #include "platform/print/preview/PreviewLayout.h"
 #include "printing/PreviewFixture.h"
 #include "shell/modFunctions.h"
-
-#include <QMdiSubWindow>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
@@ -52,13 +50,6 @@ private slots:
     void prevMayLeaveTheFirstPage();
     void theUsersZoomIsShown();
     void everyToolOfTheBandIsThere();
-    void closeReportsByModule_data();
-    void closeReportsByModule();
-    void closingARecordReportsNothing();
-    void unloadingReportsAndForgets();
-    void thePreviewGoesAfterItsReport_data();
-    void thePreviewGoesAfterItsReport();
-    void closeHidesAndKeepsTheDocument();
     void pageSetupLaysTheDocumentOutAnew();
     void aCancelledPageSetupChangesNothing();
     void printerSetupComposesNothing();
@@ -74,7 +65,6 @@ private:
     VSPrinter &vs() const { return m_open->vs(); }
     QString text(const QString &tool) const { return open().tool(tool).Text(); }
     bool enabled(const QString &tool) const { return open().tool(tool).Enabled(); }
-    bool isInWindowMenu() const;
 
     std::unique_ptr<PreviewedSystem> m_open;
 };
@@ -87,13 +77,6 @@ void tst_PreviewTools::init()
 void tst_PreviewTools::cleanup()
 {
     m_open.reset();
-}
-
-bool tst_PreviewTools::isInWindowMenu() const
-{
-    for (const auto &entry : open().system.frame().mnuMain.Bands(u"mnuWindow"_s).Tools())
-        if (entry->Name() == u"Print Preview"_s) return true;
-    return false;
 }
 
 void tst_PreviewTools::theWindowOpensMaximizedWithItsEntries()
@@ -327,83 +310,6 @@ void tst_PreviewTools::everyToolOfTheBandIsThere()
     for (const auto &shown : tools)
         QVERIFY2(open().window().mnuPrintPreview.widget().findChild<QWidget *>(shown->Name())->isVisible(),
                  qPrintable(shown->Name()));
-}
-
-void tst_PreviewTools::closeReportsByModule_data()
-{
-    QTest::addColumn<int>("module");
-    QTest::addColumn<QString>("step");
-    QTest::newRow("guide") << 1 << u"127"_s;
-    QTest::newRow("manual") << 2 << u"206"_s;
-    QTest::newRow("procedure") << 3 << u"311"_s;
-    QTest::newRow("tool") << 4 << u"406"_s;
-}
-
-void tst_PreviewTools::closeReportsByModule()
-{
-    QFETCH(int, module);
-    open().preview(module);
-    open().press(u"close"_s);
-    QTEST(open().system.console().Tag(), "step");
-}
-
-void tst_PreviewTools::closingARecordReportsNothing()
-{
-    PictureBox front(open().window(), u"front"_s);
-    open().window().PrintRecord(front, nullptr);
-    open().press(u"close"_s);
-    QCOMPARE(open().system.console().Tag(), u"101"_s);
-    open().window().PrintRecord(front, nullptr);
-    open().window().Unload();
-    QCOMPARE(open().system.console().Tag(), u"101"_s);
-}
-
-void tst_PreviewTools::unloadingReportsAndForgets()
-{
-    open().preview(ManualModule);
-    open().window().subWindow().close();
-    QCOMPARE(open().system.console().Tag(), u"206"_s);
-    QCOMPARE(countWindows(u"frmPrint"_s), 0);
-    QVERIFY(!isInWindowMenu());
-}
-
-void tst_PreviewTools::thePreviewGoesAfterItsReport_data()
-{
-    QTest::addColumn<bool>("byTool");
-    QTest::newRow("close tool: the entry, then the window") << true;
-    QTest::newRow("close box: the window, then the entry") << false;
-}
-
-void tst_PreviewTools::thePreviewGoesAfterItsReport()
-{
-    QFETCH(bool, byTool);
-    open().preview(ManualModule);
-    QList<bool> wholeAtReport;
-    QList<bool> visibleAsEntryWent;
-    const QObject context;
-    connect(&open().system.console().txtTag, &TextBox::Change, &context,
-            [&] { wholeAtReport << (open().window().Visible() && isInWindowMenu()); });
-    connect(&open().system.frame().mnuMain, &ActiveBar::Changed, &context, [&] {
-        if (visibleAsEntryWent.isEmpty() && !isInWindowMenu()) visibleAsEntryWent << open().window().Visible();
-    });
-    if (byTool)
-        open().press(u"close"_s);
-    else
-        open().window().subWindow().close();
-    QCOMPARE(open().system.console().Tag(), u"206"_s);
-    QCOMPARE(wholeAtReport, QList<bool>{true});
-    QCOMPARE(visibleAsEntryWent, QList<bool>{byTool});
-}
-
-void tst_PreviewTools::closeHidesAndKeepsTheDocument()
-{
-    open().preview(ToolModule);
-    const int pages = vs().PageCount();
-    open().press(u"close"_s);
-    QVERIFY(!open().window().Visible());
-    QCOMPARE(countWindows(u"frmPrint"_s), 1);
-    QCOMPARE(vs().PageCount(), pages);
-    QVERIFY(!isInWindowMenu());
 }
 
 void tst_PreviewTools::pageSetupLaysTheDocumentOutAnew()

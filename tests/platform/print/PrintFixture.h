@@ -59,6 +59,17 @@ inline void compose(VSPrinter &vs, const QString &rtf)
     vs.EndDoc();
 }
 
+// Each page tells its number.
+inline void composePages(VSPrinter &vs, int count)
+{
+    vs.StartDoc();
+    for (int page = 1; page <= count; ++page) {
+        if (page > 1) vs.NewPage();
+        vs.setTextRTF(QStringLiteral("{\\rtf1 Page %1}").arg(page));
+    }
+    vs.EndDoc();
+}
+
 // The paragraphs of a rich text, laid out in a column of this width.
 inline std::vector<std::shared_ptr<const Paragraph>> paragraphsOf(const QString &rtf, double width)
 {

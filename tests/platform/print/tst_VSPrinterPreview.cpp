@@ -1,5 +1,4 @@
 // The preview: pages at a zoom and in four ways of looking, and what mouse and keyboard do to it.
-#include "platform/print/CountingDevice.h"
 #include "platform/print/PrintFixture.h"
 #include "platform/print/preview/PreviewView.h"
 
@@ -50,9 +49,6 @@ private slots:
     void aClickOnTheOtherOfTwoPagesGoesThere();
     void arrowsChooseAThumbnailAndEnterShowsIt();
     void theProgramsOwnChangesRaiseNoEvent();
-    void aPageIsWhiteAndItsTextBlack();
-    void textIsDrawnAtTheZoomAndNotEnlarged();
-    void onlyWhatIsInSightIsDrawn();
     void aScreenReaderHearsThePage();
     void theControlTakesTheFocus();
 
@@ -83,12 +79,7 @@ void tst_VSPrinterPreview::cleanup()
 
 void tst_VSPrinterPreview::show(int pages)
 {
-    vs().StartDoc();
-    for (int page = 1; page <= pages; ++page) {
-        if (page > 1) vs().NewPage();
-        vs().setTextRTF(u"{\\rtf1 Page %1}"_s.arg(page));
-    }
-    vs().EndDoc();
+    composePages(vs(), pages);
     showActive(*m_window);
     vs().SetFocus();
 }
@@ -443,66 +434,6 @@ void tst_VSPrinterPreview::theProgramsOwnChangesRaiseNoEvent()
     QCOMPARE(bar().value(), 0);
     vs().setZoomMode(ZoomThumbnails);
     QCOMPARE(zoomed.count() + scrolled.count(), 0);
-}
-
-void tst_VSPrinterPreview::aPageIsWhiteAndItsTextBlack()
-{
-    QPalette dark = QApplication::palette();
-    const QPalette before = dark;
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::WindowText, Qt::white);
-    dark.setColor(QPalette::Base, Qt::black);
-    QApplication::setPalette(dark);
-    vs().setZoomMode(ZoomPageWidth);
-    show(1);
-    const QImage shown = view().viewport()->grab().toImage();
-    QCOMPARE(shown.pixelColor(shown.width() / 2, 40), QColor(Qt::white));
-    int darkest = 255;
-    for (int y = 20; y < shown.height(); ++y)
-        for (int x = 30; x < shown.width() / 2; ++x)
-            darkest = std::min(darkest, qGray(shown.pixel(x, y)));
-    QVERIFY(darkest < 60);
-    QApplication::setPalette(before);
-}
-
-// Large letters have sharp edges: hardly a pixel is neither black nor white.
-void tst_VSPrinterPreview::textIsDrawnAtTheZoomAndNotEnlarged()
-{
-    vs().setMarginLeft(0);
-    vs().setMarginTop(0);
-    compose(vs(), uR"({\rtf1{\fonttbl{\f0 Arial;}}\f0\fs96 HHHHHH})"_s);
-    showActive(*m_window);
-    vs().setZoom(400);
-    view().horizontalScrollBar()->setValue(0);
-    bar().setValue(0);
-    const QImage shown = view().viewport()->grab().toImage();
-    int black = 0;
-    int grey = 0;
-    for (int y = 40; y < shown.height() - 40; ++y)
-        for (int x = 40; x < shown.width() - 40; ++x) {
-            const int value = qGray(shown.pixel(x, y));
-            black += value < 20;
-            grey += value >= 20 && value < 235;
-        }
-    QVERIFY(black > 5000);
-    QVERIFY(grey < black / 10);
-}
-
-// Counts the texts that are drawn for a view of one page, however many the document has.
-void tst_VSPrinterPreview::onlyWhatIsInSightIsDrawn()
-{
-    const auto textsDrawn = [this](int pages, int mode) {
-        show(pages);
-        vs().setZoomMode(mode);
-        CountingDevice device;
-        view().viewport()->render(&device);
-        return device.texts();
-    };
-    const int one = textsDrawn(1, ZoomWholePage);
-    QVERIFY(one > 0);
-    QCOMPARE(textsDrawn(200, ZoomWholePage), one);
-    const int thumbnails = textsDrawn(200, ZoomThumbnails);
-    QVERIFY(thumbnails > one && thumbnails < 30 * one);
 }
 
 void tst_VSPrinterPreview::aScreenReaderHearsThePage()
