@@ -24,32 +24,16 @@ tidy() {
         xargs -d '\n' -n 1 -P "$(nproc)" clang-tidy -p "$folder" --quiet 2> >(grep -v ' generated\.$' >&2)
 }
 
-# clazy CHECKS FILE...: its own findings are what counts. The compiler beneath it isn't the one that the warnings are set
-# for.
+# Its own findings are what counts: the compiler beneath it isn't the one that the warnings are set for.
 clazy() {
     local said
-    if ! said=$(printf '%s\n' "${@:2}" | xargs -d '\n' -n 1 -P "$(nproc)" clazy-standalone -p "$folder" \
-        --checks="$1" --ignore-included-files --extra-arg=-Wno-error 2>&1); then
+    if ! said=$(printf '%s\n' "$@" | xargs -d '\n' -n 1 -P "$(nproc)" clazy-standalone -p "$folder" \
+        --checks=level1 --ignore-included-files --extra-arg=-Wno-error 2>&1); then
         grep -B 2 -A 2 'rror' <<<"$said" >&2 || true
         echo "clazy could not look through everything" >&2
         return 1
     fi
     ! grep -A 2 '\[-Wclazy' <<<"$said" >&2
-}
-
-# A test's variables live longer than the context that it joins handlers with, and its patterns come from tables: clazy
-# sees neither.
-clazy_by_kind() {
-    local file programs=() tests=() failed=0
-    for file in "$@"; do
-        case $(realpath --relative-to=. "$file") in
-        tests/*) tests+=("$file") ;;
-        *) programs+=("$file") ;;
-        esac
-    done
-    ((!${#programs[@]})) || clazy level1 "${programs[@]}" || failed=1
-    ((!${#tests[@]})) || clazy level1,no-lambda-in-connect,no-use-static-qregularexpression "${tests[@]}" || failed=1
-    return "$failed"
 }
 
 main() {
@@ -58,7 +42,7 @@ main() {
     generate
     ((${#files[@]})) || mapfile -t files < <(compiled_files)
     tidy "${files[@]}" || failed=1
-    clazy_by_kind "${files[@]}" || failed=1
+    clazy "${files[@]}" || failed=1
     return "$failed"
 }
 

@@ -1,4 +1,5 @@
 // The diagram as a window, its tabs and its hover colours.
+// A connection's context goes before what its handler holds: clazy:excludeall=lambda-in-connect
 #include "command_center/DiagramData.h"
 #include "command_center/DiagramUser.h"
 #include "command_center/OrderLog.h"

@@ -1,4 +1,5 @@
 // How a job becomes the document in the preview.
+// A connection's context goes before what its handler holds: clazy:excludeall=lambda-in-connect
 #include "platform/controls/pictures/PictureBox.h"
 #include "printing/PreviewFixture.h"
 

@@ -1,4 +1,5 @@
 // The tables at the head and foot of every page.
+// A connection's context goes before what its handler holds: clazy:excludeall=lambda-in-connect
 #include "platform/controls/pictures/PictureBox.h"
 #include "printing/PreviewFixture.h"
 

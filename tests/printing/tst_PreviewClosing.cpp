@@ -1,4 +1,5 @@
 // How the preview goes: what it reports, in which order, and what is kept.
+// A connection's context goes before what its handler holds: clazy:excludeall=lambda-in-connect
 #include "platform/controls/pictures/PictureBox.h"
 #include "printing/PreviewFixture.h"
 

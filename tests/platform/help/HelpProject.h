@@ -1,4 +1,5 @@
 // The help's sources: the tree, the keywords and the files of the project, and the pages as they are written.
+// The pattern is made for each attribute: clazy:excludeall=use-static-qregularexpression
 #pragma once
 
 #include <QDir>

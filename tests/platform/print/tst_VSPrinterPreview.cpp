@@ -1,4 +1,5 @@
 // The preview: pages at a zoom and in four ways of looking, and what mouse and keyboard do to it.
+// A connection's context goes before what its handler holds: clazy:excludeall=lambda-in-connect
 #include "platform/print/PrintFixture.h"
 #include "platform/print/preview/PreviewView.h"
 

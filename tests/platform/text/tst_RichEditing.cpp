@@ -1,4 +1,5 @@
 // What the user can do in a rich-text box, and what no user can do in a locked one.
+// A connection's context goes before what its handler holds: clazy:excludeall=lambda-in-connect
 #include "platform/text/RichBoxFixture.h"
 
 #include <QContextMenuEvent>

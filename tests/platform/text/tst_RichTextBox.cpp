@@ -1,4 +1,5 @@
 // The rich-text control: its text, its selection, and what it lets the user do.
+// A connection's context goes before what its handler holds: clazy:excludeall=lambda-in-connect
 #include "platform/controls/text/RichEdit.h"
 #include "platform/text/BoxWindow.h"
 

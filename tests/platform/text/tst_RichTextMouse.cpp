@@ -1,4 +1,5 @@
 // What the rich-text control tells of the mouse: the button, the keys that are held, the place, and a click.
+// A connection's context goes before what its handler holds: clazy:excludeall=lambda-in-connect
 #include "platform/text/BoxWindow.h"
 
 #include <QMouseEvent>
