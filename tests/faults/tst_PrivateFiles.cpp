@@ -121,8 +121,7 @@ void tst_PrivateFiles::theHelpsFolderIsTheOwners()
         QVERIFY(ownAmong(filesUnder(user.cache()), user).size() > 1);
         const QStringList open = ownAmong(openToOthers(user.cache()), user);
         QVERIFY2(isLocksAlone(open), qPrintable(open.join(u' ')));
-        HelpUser::window()->close();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(HelpUser::closeAndWait());
         const QStringList left = ownAmong(filesUnder(user.cache()), user);
         QVERIFY2(isLocksAlone(left), qPrintable(left.join(u' ')));
     }

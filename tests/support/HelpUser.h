@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -30,8 +31,7 @@ public:
 
     ~HelpUser()
     {
-        if (window()) window()->close();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        if (!closeAndWait()) QTest::qFail("the help window doesn't go", __FILE__, __LINE__);
         if (m_cacheBefore.isNull())
             qunsetenv("XDG_CACHE_HOME");
         else
@@ -53,6 +53,14 @@ public:
         for (QWidget *widget : QApplication::topLevelWidgets())
             if (widget->objectName() == QStringLiteral("helpWindow") && widget->isVisible()) return widget;
         return nullptr;
+    }
+
+    // Where there is one. It goes when its search has ended.
+    static bool closeAndWait()
+    {
+        const QPointer<QWidget> open = window();
+        if (open) open->close();
+        return QTest::qWaitFor([&open] { return open.isNull(); });
     }
 
     template <class Part>

@@ -2,6 +2,7 @@
 
 #include "platform/help/HelpLibrary.h"
 
+#include <QHelpIndexModel>
 #include <QHelpSearchEngine>
 #include <QLabel>
 #include <QLineEdit>
@@ -43,12 +44,19 @@ HelpSearchPane::HelpSearchPane(HelpLibrary &library)
     connect(m_text, &QLineEdit::returnPressed, this, &HelpSearchPane::search);
     connect(m_found, &QTreeWidget::itemActivated, this, &HelpSearchPane::choose);
     connect(m_found, &QTreeWidget::itemClicked, this, &HelpSearchPane::choose);
+    followEngine();
+}
+
+void HelpSearchPane::followEngine()
+{
     QHelpSearchEngine *engine = m_library.engine().searchEngine();
-    connect(engine, &QHelpSearchEngine::searchingFinished, this, &HelpSearchPane::showPages);
-    connect(engine, &QHelpSearchEngine::indexingFinished, this, [this] {
-        m_indexed = true;
+    const auto go = [this](bool &isThere) {
+        isThere = true;
         if (!m_query.isEmpty()) search();
-    });
+    };
+    connect(engine, &QHelpSearchEngine::indexingFinished, this, [this, go] { go(m_hasPages); });
+    connect(m_library.engine().indexModel(), &QHelpIndexModel::indexCreated, this, [this, go] { go(m_hasKeywords); });
+    connect(engine, &QHelpSearchEngine::searchingFinished, this, &HelpSearchPane::endSearch);
     engine->scheduleIndexDocumentation();
 }
 
@@ -90,10 +98,32 @@ void HelpSearchPane::search()
     m_query = queryOf(m_words);
     if (m_query.isEmpty()) return;
     showKeywords();
-    if (m_indexed)
-        m_library.engine().searchEngine()->search(m_query);
-    else
+    if (!m_hasPages || !m_hasKeywords)
         m_count->setText(QStringLiteral("Reading the pages..."));
+    else if (!m_isSearching)
+        start();
+}
+
+void HelpSearchPane::stop()
+{
+    m_query.clear();
+}
+
+// One at a time: the engine doesn't say which search has ended, and where two overlap not even of each that it has.
+void HelpSearchPane::start()
+{
+    m_isSearching = true;
+    m_library.engine().searchEngine()->search(m_query);
+}
+
+void HelpSearchPane::endSearch(int count)
+{
+    m_isSearching = false;
+    if (m_library.engine().searchEngine()->searchInput() == m_query)
+        showPages(count);
+    else if (!m_query.isEmpty())
+        start(); // the user has gone on to another one
+    if (!m_isSearching) Q_EMIT searchEnded();
 }
 
 void HelpSearchPane::showKeywords()
@@ -105,11 +135,9 @@ void HelpSearchPane::showKeywords()
         add(group, keyword, m_library.pageOf(keyword));
 }
 
-// Comes once for each search, also for one that was repeated before it was done.
 void HelpSearchPane::showPages(int count)
 {
     const QHelpSearchEngine &engine = *m_library.engine().searchEngine();
-    if (m_query.isEmpty() || engine.searchInput() != m_query) return; // the user has gone on to another one
     m_found->clear();
     showKeywords();
     if (count > 0) {

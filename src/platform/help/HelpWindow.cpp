@@ -41,7 +41,6 @@ HelpWindow::HelpWindow(const QString &helpFile, Print print)
 {
     setObjectName(QStringLiteral("helpWindow"));
     setWindowTitle(QStringLiteral("orvane Help"));
-    setAttribute(Qt::WA_DeleteOnClose);
     addTabs();
     addTools();
     addKeys();
@@ -161,6 +160,17 @@ void HelpWindow::bringForward()
     show();
     raise();
     activateWindow();
+}
+
+// A closed window goes as soon as its engine can.
+void HelpWindow::closeEvent(QCloseEvent *event)
+{
+    QMainWindow::closeEvent(event);
+    m_search->stop();
+    if (m_search->isSearching())
+        connect(m_search, &HelpSearchPane::searchEnded, this, &QObject::deleteLater);
+    else
+        deleteLater();
 }
 
 void HelpWindow::showContents()

@@ -36,6 +36,9 @@ public:
     void showContents(); // the contents, and the first page
     void showSearch();
 
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
 private:
     void layOut();
     void addTabs();

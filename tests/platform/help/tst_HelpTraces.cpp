@@ -95,8 +95,7 @@ void tst_HelpTraces::placeAndSizeAreForgotten()
     m_user->openContents();
     const QRect first = m_user->window()->geometry();
     m_user->window()->setGeometry(first.adjusted(40, 30, -50, -60));
-    m_user->window()->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(m_user->closeAndWait());
     m_user->openContents();
     QCOMPARE(m_user->window()->geometry(), first);
     QCOMPARE(m_user->tab(), u"Contents"_s);
@@ -108,8 +107,7 @@ void tst_HelpTraces::noSettingsAreWritten()
     const QByteArray before = qgetenv("XDG_CONFIG_HOME");
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings.path()));
     m_user->openSearch();
-    m_user->window()->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(m_user->closeAndWait());
     QCOMPARE(filesUnder(settings.path()), QStringList());
     qputenv("XDG_CONFIG_HOME", before);
 }
@@ -158,8 +156,7 @@ void tst_HelpTraces::withoutACacheTheHelpWorksToo()
     qputenv("XDG_CACHE_HOME", QFile::encodeName(cache));
     m_user->openContents();
     QCOMPARE(m_user->pageName(), u"index.html"_s);
-    m_user->window()->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(m_user->closeAndWait());
     m_user->openSearch();
     QCOMPARE(m_user->tab(), u"Search"_s);
 }
