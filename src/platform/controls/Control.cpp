@@ -1,7 +1,7 @@
 #include "platform/controls/Control.h"
 
+#include "platform/controls/Twips.h"
 #include "platform/forms/Form.h"
-#include "platform/system/RunTimeError.h"
 
 #include <QAbstractScrollArea>
 #include <QEvent>
@@ -15,11 +15,6 @@ namespace orvane
 namespace
 {
 const char ControlProperty[] = "orvaneControl";
-
-void refuseNegative(double twips)
-{
-    if (twips < 0) throw RunTimeError(InvalidPropertyValue, QStringLiteral("A width or height can't be negative."));
-}
 } // namespace
 
 Control::Control(Container &parent, const QString &name, QWidget *widget) : m_form(parent.form()), m_widget(widget)

@@ -2,20 +2,12 @@
 
 #include "platform/controls/Colour.h"
 #include "platform/controls/ScrollView.h"
-#include "platform/system/RunTimeError.h"
+#include "platform/controls/Twips.h"
 
 #include <QScrollBar>
 
 namespace orvane
 {
-
-namespace
-{
-void refuseNegative(double twips)
-{
-    if (twips < 0) throw RunTimeError(InvalidPropertyValue, QStringLiteral("An area can't be of negative size."));
-}
-} // namespace
 
 SSScroll::SSScroll(Container &parent, const QString &name)
     : Control(parent, name, new ScrollView), m_view(static_cast<ScrollView &>(widget()))

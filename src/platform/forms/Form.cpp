@@ -1,6 +1,7 @@
 #include "platform/forms/Form.h"
 
 #include "platform/controls/Colour.h"
+#include "platform/controls/Twips.h"
 #include "platform/forms/FocusRest.h"
 #include "platform/forms/ShellGeometry.h"
 #include "platform/forms/WindowList.h"

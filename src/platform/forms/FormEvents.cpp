@@ -1,6 +1,7 @@
 // What the toolkit tells a window, turned into the window's own events.
 
 #include "platform/forms/Form.h"
+#include "platform/forms/ShiftState.h"
 #include "platform/system/Guard.h"
 
 #include <QCloseEvent>
@@ -24,13 +25,6 @@ int asciiOf(const QKeyEvent &event)
 {
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return CarriageReturn;
     return event.text().isEmpty() ? 0 : event.text().front().unicode();
-}
-
-int shiftStateOf(const QKeyEvent &event)
-{
-    const Qt::KeyboardModifiers modifiers = event.modifiers();
-    return (modifiers & Qt::ShiftModifier ? 1 : 0) + (modifiers & Qt::ControlModifier ? 2 : 0) +
-           (modifiers & Qt::AltModifier ? 4 : 0);
 }
 } // namespace
 
@@ -98,7 +92,7 @@ void Form::activationChanged(bool active)
 
 void Form::keyPressed(const QKeyEvent &event)
 {
-    Form_KeyDown(keyCodeOf(event), shiftStateOf(event));
+    Form_KeyDown(keyCodeOf(event), shiftState(event.modifiers()));
     const int ascii = asciiOf(event);
     if (ascii != 0 && m_loaded) Form_KeyPress(ascii);
 }
@@ -107,7 +101,7 @@ void Form::keyPressed(const QKeyEvent &event)
 void Form::keyReleased(const QKeyEvent &event)
 {
     if (event.isAutoRepeat()) return;
-    Form_KeyUp(keyCodeOf(event), shiftStateOf(event));
+    Form_KeyUp(keyCodeOf(event), shiftState(event.modifiers()));
 }
 
 } // namespace orvane

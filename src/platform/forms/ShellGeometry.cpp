@@ -50,11 +50,6 @@ void refuseMaximized(int windowState)
                            QStringLiteral("A window can't be moved or sized while it is maximized."));
 }
 
-void refuseNegative(double twips)
-{
-    if (twips < 0) throw RunTimeError(InvalidPropertyValue, QStringLiteral("A width or height can't be negative."));
-}
-
 void resizeOutside(QWidget &shell, int width, int height)
 {
     const QSize frame = shell.frameGeometry().size() - shell.size();

@@ -10,7 +10,6 @@ namespace orvane
 double asSet(double twips, int pixels);
 
 void refuseMaximized(int windowState); // error 384
-void refuseNegative(double twips);     // error 380
 
 // Sizes the window so that it measures this with its frame.
 void resizeOutside(QWidget &shell, int width, int height);

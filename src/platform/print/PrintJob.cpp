@@ -1,5 +1,6 @@
 #include "platform/print/PrintJob.h"
 
+#include "platform/controls/Twips.h"
 #include "platform/print/PdfFile.h"
 #include "platform/print/PrintProgress.h"
 #include "platform/print/Printers.h"
@@ -18,8 +19,6 @@ namespace orvane
 
 namespace
 {
-constexpr double TwipsPerInch = 1440;
-
 void require(bool done, const QString &deviceName)
 {
     if (!done) throw RunTimeError(PrinterFailure, QStringLiteral("The printer \"%1\" can't print.").arg(deviceName));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/FormFixture.h"
+#include "platform/controls/Twips.h"
 #include "platform/forms/Wiring.h"
 #include "platform/print/VSPrinter.h"
 #include "platform/print/pages/Paragraph.h"
@@ -126,7 +127,6 @@ struct PrintedPage {
 // The pages of a PDF file, read by a program that isn't ours.
 inline std::vector<PrintedPage> readPdf(const QString &fileName)
 {
-    constexpr double TwipsPerPoint = 20;
     const QString html = QString::fromUtf8(
         outputOf(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), fileName, QStringLiteral("-")}));
     static const QRegularExpression element(

@@ -3,6 +3,7 @@
 #include "platform/controls/text/EditMenu.h"
 #include "platform/controls/text/OfferedText.h"
 #include "platform/controls/text/TakenText.h"
+#include "platform/forms/ShiftState.h"
 #include "platform/richtext/Rtf.h"
 
 #include <QApplication>
@@ -37,12 +38,6 @@ int numberOf(Qt::MouseButton button)
     default:
         return 0;
     }
-}
-
-int shiftOf(Qt::KeyboardModifiers modifiers)
-{
-    return (modifiers & Qt::ShiftModifier ? 1 : 0) + (modifiers & Qt::ControlModifier ? 2 : 0) +
-           (modifiers & Qt::AltModifier ? 4 : 0);
 }
 
 struct EditKey {
@@ -198,14 +193,14 @@ void RichEdit::mouseReleaseEvent(QMouseEvent *event)
     QTextEdit::mouseReleaseEvent(event);
     const QPointer<RichEdit> self = this;
     if (event->button() == Qt::LeftButton) emit pressed();
-    if (self) emit released(numberOf(event->button()), shiftOf(event->modifiers()), event->position());
+    if (self) emit released(numberOf(event->button()), shiftState(event->modifiers()), event->position());
     if (self && isVisible() && event->button() == Qt::RightButton) openMenu(event->globalPosition().toPoint());
 }
 
 void RichEdit::mouseMoveEvent(QMouseEvent *event)
 {
     QTextEdit::mouseMoveEvent(event);
-    emit moved(static_cast<int>(event->buttons() & 7), shiftOf(event->modifiers()), event->position());
+    emit moved(static_cast<int>(event->buttons() & 7), shiftState(event->modifiers()), event->position());
 }
 
 } // namespace orvane

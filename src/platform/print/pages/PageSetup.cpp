@@ -1,5 +1,7 @@
 #include "platform/print/pages/PageSetup.h"
 
+#include "platform/controls/Twips.h"
+
 #include <QPageLayout>
 #include <QPageSize>
 #include <algorithm>
@@ -9,7 +11,6 @@ namespace orvane
 
 namespace
 {
-constexpr double TwipsPerPoint = 20;
 constexpr double LeastRoom = 720;
 } // namespace
 

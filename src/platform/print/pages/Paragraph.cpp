@@ -13,7 +13,6 @@ namespace orvane
 
 namespace
 {
-constexpr double TwipsPerPoint = 20;
 constexpr int LongestHeading = 2; // lines
 constexpr double Unlimited = std::numeric_limits<double>::max();
 

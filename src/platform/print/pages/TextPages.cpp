@@ -1,5 +1,6 @@
 #include "platform/print/pages/TextPages.h"
 
+#include "platform/controls/Twips.h"
 #include "platform/print/pages/Paragraph.h"
 #include "platform/print/pages/Recording.h"
 
@@ -13,7 +14,7 @@ namespace orvane
 
 namespace
 {
-constexpr double TwipsPerMeter = 1440 / 0.0254;
+constexpr double TwipsPerMeter = TwipsPerInch / 0.0254;
 constexpr double NumberSize = 10; // points
 
 // What a text is laid out on, its unit the twip. A layout goes on asking its device, so there is one for all.

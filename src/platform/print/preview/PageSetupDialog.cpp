@@ -1,5 +1,6 @@
 #include "platform/print/preview/PageSetupDialog.h"
 
+#include "platform/controls/Twips.h"
 #include "platform/print/Printers.h"
 
 #include <QApplication>
@@ -20,7 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace
 {
-constexpr double TwipsPerInch = 1440;
 constexpr double TwipsPerMillimetre = TwipsPerInch / 25.4;
 constexpr double LeastRoom = TwipsPerInch; // between two margins
 
