@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QUuid>
+#include <algorithm>
 #include <filesystem>
 
 namespace orvane
@@ -30,6 +31,16 @@ QString fileNameOf(const QString &title)
     while (!name.isEmpty() && isEdge(name.back()))
         name.chop(1);
     return name.isEmpty() ? u"Document"_s : name;
+}
+
+// The toolkit doesn't tell of a disk that was full.
+bool isWhole(const QString &fileName)
+{
+    constexpr qsizetype EndLength = 16;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) return false;
+    file.seek(std::max<qint64>(0, file.size() - EndLength));
+    return file.read(EndLength).contains("%%EOF");
 }
 } // namespace
 
@@ -57,7 +68,7 @@ PdfFile::~PdfFile()
 
 void PdfFile::keep()
 {
-    if (m_replaces ? moveToPlace() : moveToFreePlace()) return;
+    if (isWhole(m_workingName) && (m_replaces ? moveToPlace() : moveToFreePlace())) return;
     throw RunTimeError(PrinterFailure, u"The file \"%1\" can't be written in %2."_s.arg(m_baseName, m_folder));
 }
 

@@ -21,7 +21,7 @@ public:
     PdfFile &operator=(const PdfFile &) = delete;
 
     const QString &workingName() const { return m_workingName; }
-    void keep(); // error 482 where the file can't move to its place
+    void keep(); // error 482 where the file isn't whole, or can't move to its place
 
 private:
     PdfFile(const QString &folder, const QString &baseName, bool replaces);

@@ -90,11 +90,14 @@ QString run(const RecordedPages &pages, const PrintJob &job)
     else
         progress.withholdCancel(); // the toolkit hands a job to its queue even if it isn't complete
     const auto painter = std::make_shared<QPainter>();
-    const QString queue = file ? QString() : printer->printerName();
     if (!paint(*painter, *printer, pages, job, progress)) return {};
-    finishJob(printer, painter);
-    if (file) file->keep();
-    return queue;
+    if (!file) {
+        finishJob(printer, painter);
+        return printer->printerName();
+    }
+    painter->end();
+    file->keep();
+    return {};
 }
 } // namespace
 

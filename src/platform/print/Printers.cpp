@@ -21,7 +21,6 @@ namespace orvane
 namespace
 {
 constexpr qsizetype NameLength = 31; // of the 32 characters that the dialog's record has for a name, one ends it
-constexpr qsizetype FileEndLength = 16;
 
 QString &chosenFile()
 {
@@ -75,14 +74,6 @@ std::unique_ptr<QPrinter> openInstalled(const InstalledPrinter &printer)
 {
     return printer.deviceName == pdfPrinterName() ? openPdfPrinter() : host().openQueue(printer.port);
 }
-
-bool isWholePdf(const QString &fileName)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) return false;
-    file.seek(std::max<qint64>(0, file.size() - FileEndLength));
-    return file.read(FileEndLength).contains("%%EOF");
-}
 } // namespace
 
 std::vector<InstalledPrinter> installedPrinters()
@@ -119,12 +110,6 @@ std::unique_ptr<QPrinter> openPrinter(const QString &deviceName)
 
 void finishJob(const std::shared_ptr<QPrinter> &printer, const std::shared_ptr<QPainter> &painter)
 {
-    const QString file = printer->outputFileName();
-    if (printer->outputFormat() == QPrinter::PdfFormat) {
-        painter->end();
-        if (isWholePdf(file)) return;
-        throw RunTimeError(PrinterFailure, QStringLiteral("The file \"%1\" can't be written.").arg(file));
-    }
     const QString refusal = handOver(printer, painter);
     if (refusal.isEmpty()) return;
     throw RunTimeError(

@@ -24,8 +24,8 @@ int ownPaperSize(const QString &deviceName);
 // A printer in full-page mode with the settings of its queue. Error 482 where there is no such printer (any more).
 std::unique_ptr<QPrinter> openPrinter(const QString &deviceName);
 
-// Ends the painter on this printer, and with it the job. Error 482 where the file wasn't written, or with the system's
-// own words where the queue didn't take the job; a paused queue does.
+// Ends the painter on this printer of the system, and with it the job. Error 482 with the system's own words where the
+// queue didn't take the job; a paused queue does.
 void finishJob(const std::shared_ptr<QPrinter> &printer, const std::shared_ptr<QPainter> &painter);
 
 // The file that the PDF file printer writes next. It is what the user chose last in the print dialog; until then a

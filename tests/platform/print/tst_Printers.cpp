@@ -68,9 +68,6 @@ private slots:
     void thePdfPrinterWritesWhereTheUserSaid();
     void aPrinterThatWentAwayIsRefused();
     void aCutNameOpensItsQueue();
-    void aWrittenFileIsConfirmed();
-    void aFileThatIsNotThereIsReported();
-    void aFileThatCantTakeTheJobIsReported();
 };
 
 void tst_Printers::aFreshMachineHasTheFilePrinter()
@@ -301,36 +298,6 @@ void tst_Printers::aCutNameOpensItsQueue()
     TestHost host;
     host.setPrintQueues({simple(longName(u"a"_s)), simple(longName(u"b"_s))});
     QCOMPARE(openPrinter(deviceNames().at(1))->outputFileName(), host.printedFile(longName(u"b"_s)));
-}
-
-void tst_Printers::aWrittenFileIsConfirmed()
-{
-    const TestHost host;
-    const std::shared_ptr<QPrinter> printer = openPrinter(pdfPrinterName());
-    const auto painter = std::make_shared<QPainter>(printer.get());
-    painter->drawText(100, 100, u"words"_s);
-    finishJob(printer, painter);
-    QVERIFY(!painter->isActive());
-    QVERIFY(QFileInfo(printer->outputFileName()).size() > 0);
-}
-
-void tst_Printers::aFileThatIsNotThereIsReported()
-{
-    const TestHost host;
-    const std::shared_ptr<QPrinter> printer = openPrinter(pdfPrinterName());
-    const auto painter = std::make_shared<QPainter>(printer.get());
-    QVERIFY(QFile::remove(printer->outputFileName()));
-    QCOMPARE(errorOf([&] { finishJob(printer, painter); }), int(PrinterFailure));
-}
-
-void tst_Printers::aFileThatCantTakeTheJobIsReported()
-{
-    if (!QFile::exists(u"/dev/full"_s)) QSKIP("this system has no full device");
-    const TestHost host;
-    setPdfFileName(u"/dev/full"_s);
-    const std::shared_ptr<QPrinter> printer = openPrinter(pdfPrinterName());
-    const auto painter = std::make_shared<QPainter>(printer.get());
-    QCOMPARE(errorOf([&] { finishJob(printer, painter); }), int(PrinterFailure));
 }
 
 QTEST_MAIN(tst_Printers)
