@@ -41,7 +41,7 @@ HelpSearchPane::HelpSearchPane(HelpLibrary &library)
     : m_library(library), m_text(new QLineEdit), m_found(new QTreeWidget), m_count(new QLabel)
 {
     layOut();
-    connect(m_text, &QLineEdit::returnPressed, this, &HelpSearchPane::search);
+    connect(m_text, &QLineEdit::returnPressed, this, &HelpSearchPane::takeWords);
     connect(m_found, &QTreeWidget::itemActivated, this, &HelpSearchPane::choose);
     connect(m_found, &QTreeWidget::itemClicked, this, &HelpSearchPane::choose);
     followEngine();
@@ -52,7 +52,7 @@ void HelpSearchPane::followEngine()
     QHelpSearchEngine *engine = m_library.engine().searchEngine();
     const auto go = [this](bool &isThere) {
         isThere = true;
-        if (!m_query.isEmpty()) search();
+        search();
     };
     connect(engine, &QHelpSearchEngine::indexingFinished, this, [this, go] { go(m_hasPages); });
     connect(m_library.engine().indexModel(), &QHelpIndexModel::indexCreated, this, [this, go] { go(m_hasKeywords); });
@@ -68,7 +68,7 @@ void HelpSearchPane::layOut()
     m_text->setClearButtonEnabled(true);
     auto *start = new QPushButton(QStringLiteral("&Search"));
     start->setObjectName(QStringLiteral("searchStart"));
-    connect(start, &QPushButton::clicked, this, &HelpSearchPane::search);
+    connect(start, &QPushButton::clicked, this, &HelpSearchPane::takeWords);
     m_found->setObjectName(QStringLiteral("searchFound"));
     m_found->setAccessibleName(QStringLiteral("What was found"));
     m_found->setHeaderHidden(true);
@@ -90,12 +90,17 @@ void HelpSearchPane::takeFocus()
     m_text->selectAll();
 }
 
+void HelpSearchPane::takeWords()
+{
+    m_words = m_text->text().trimmed();
+    m_query = queryOf(m_words);
+    search();
+}
+
 void HelpSearchPane::search()
 {
     m_found->clear();
     m_count->clear();
-    m_words = m_text->text().trimmed();
-    m_query = queryOf(m_words);
     if (m_query.isEmpty()) return;
     showKeywords();
     if (!m_hasPages || !m_hasKeywords)

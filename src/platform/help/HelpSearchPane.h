@@ -34,7 +34,8 @@ Q_SIGNALS:
 private:
     void layOut();
     void followEngine();
-    void search();
+    void takeWords();
+    void search(); // for the words that were taken last
     void start();
     void endSearch(int count);
     void showKeywords();

@@ -36,6 +36,7 @@ private slots:
     void withoutAWordNothingIsSearched();
     void aSearchRepeatedAtOnceFindsTheSame();
     void aSearchLeftForAnotherDoesNotMixWithIt();
+    void whatIsTypedAfterEnterWaitsForTheNext();
     void theWindowMayBeClosedInTheMiddleOfASearch();
     void theWindowMayBeClosedWhileItReadsThePages();
     void aFoundPageIsOpened();
@@ -52,6 +53,7 @@ private:
     static QAbstractItemView &tree();
     static QModelIndex rowOf(const QString &title);
     static QStringList found(const QString &text);
+    void askAtOnce(const QString &text) const; // before the engine can have read anything
 
     std::optional<TestHost> m_host;
     std::optional<HelpUser> m_user;
@@ -92,6 +94,14 @@ QStringList tst_HelpReading::found(const QString &text)
     const bool done = QTest::qWaitFor([count] { return count->text().contains(u" found"_s); });
     if (!done) return {u"the search doesn't end"_s};
     return rowsOf(*HelpUser::part<QTreeWidget>(u"searchFound"_s).model());
+}
+
+void tst_HelpReading::askAtOnce(const QString &text) const
+{
+    WinHelp(m_user->file(), HelpPartialKey);
+    auto &field = HelpUser::part<QLineEdit>(u"searchText"_s);
+    field.setText(text);
+    QTest::keyClick(&field, Qt::Key_Return);
 }
 
 void tst_HelpReading::theTreeIsThatOfTheProject()
@@ -264,6 +274,17 @@ void tst_HelpReading::aSearchLeftForAnotherDoesNotMixWithIt()
     }
 }
 
+void tst_HelpReading::whatIsTypedAfterEnterWaitsForTheNext()
+{
+    openSearch();
+    const QStringList once = found(u"verb"_s);
+    QVERIFY(m_user->closeAndWait());
+    askAtOnce(u"verb"_s);
+    QTest::keyClicks(&m_user->part<QLineEdit>(u"searchText"_s), u"thumbnails"_s);
+    QTRY_VERIFY(m_user->part<QLabel>(u"searchCount"_s).text().contains(u" found"_s));
+    QCOMPARE(rowsOf(*m_user->part<QTreeWidget>(u"searchFound"_s).model()), once);
+}
+
 void tst_HelpReading::theWindowMayBeClosedInTheMiddleOfASearch()
 {
     for (int times = 0; times < 20; ++times) {
@@ -277,10 +298,7 @@ void tst_HelpReading::theWindowMayBeClosedInTheMiddleOfASearch()
 void tst_HelpReading::theWindowMayBeClosedWhileItReadsThePages()
 {
     for (int times = 0; times < 20; ++times) {
-        openSearch();
-        auto &field = m_user->part<QLineEdit>(u"searchText"_s);
-        field.setText(u"verb"_s);
-        QTest::keyClick(&field, Qt::Key_Return);
+        askAtOnce(u"verb"_s);
         QCOMPARE(m_user->part<QLabel>(u"searchCount"_s).text(), u"Reading the pages..."_s);
         QVERIFY(m_user->closeAndWait());
     }
