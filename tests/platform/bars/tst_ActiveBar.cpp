@@ -1,26 +1,16 @@
 #include "platform/bars/BarFixture.h"
 
-#include "platform/system/RunTimeError.h"
+#include "support/ErrorOf.h"
 
 #include <QSignalSpy>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
+using namespace orvane::test;
 using namespace barfixture;
 
 namespace
 {
-
-// The failure of the step, or an empty one where it did not fail.
-RunTimeError failureOf(const std::function<void()> &step)
-{
-    try {
-        step();
-    } catch (const RunTimeError &error) {
-        return error;
-    }
-    return RunTimeError(0, {});
-}
 
 QStringList namesOf(ActiveBar &bar)
 {
@@ -93,8 +83,8 @@ void tst_ActiveBar::toolsAreFoundByIndexAndByName()
 void tst_ActiveBar::theCaseOfANameCounts()
 {
     BarWindow window;
-    QCOMPARE(failureOf([&] { window.bar->Bands(u"MNURELATED"_s); }).Number(), 9);
-    QCOMPARE(failureOf([&] { window.bar->Tools(u"close"_s); }).Number(), 9);
+    QCOMPARE(errorOf([&] { window.bar->Bands(u"MNURELATED"_s); }), 9);
+    QCOMPARE(errorOf([&] { window.bar->Tools(u"close"_s); }), 9);
 }
 
 void tst_ActiveBar::allToolsCountInStoredOrder()
@@ -145,14 +135,14 @@ void tst_ActiveBar::whatIsMissingIsRefusedAndNamed()
     QFETCH(std::function<void(ActiveBar &)>, step);
     QFETCH(QString, named);
     BarWindow window;
-    const RunTimeError failure = failureOf([&] { step(*window.bar); });
+    const RunTimeError failure = refusalOf([&] { step(*window.bar); });
     QCOMPARE(failure.Number(), static_cast<int>(SubscriptOutOfRange));
     QVERIFY2(failure.Description().contains(named), qPrintable(failure.Description()));
 }
 
 void tst_ActiveBar::aFlyoutThatNamesNoBandIsRefused()
 {
-    const RunTimeError failure = failureOf([] { BarWindow window(StrayBands); });
+    const RunTimeError failure = refusalOf([] { BarWindow window(StrayBands); });
     QCOMPARE(failure.Number(), static_cast<int>(SubscriptOutOfRange));
     QVERIFY(failure.Description().contains(u"nowhere"_s));
 }
@@ -230,8 +220,8 @@ void tst_ActiveBar::anEntryThatIsNotThereIsRefused()
     BarWindow window(PreviewBands);
     Tool &zoom = window.bar->Tools(u"miZoom"_s);
     zoom.setList({u"200%"_s});
-    QCOMPARE(failureOf([&] { zoom.setListIndex(1); }).Number(), static_cast<int>(InvalidPropertyValue));
-    QCOMPARE(failureOf([&] { zoom.setListIndex(-2); }).Number(), static_cast<int>(InvalidPropertyValue));
+    QCOMPARE(errorOf([&] { zoom.setListIndex(1); }), static_cast<int>(InvalidPropertyValue));
+    QCOMPARE(errorOf([&] { zoom.setListIndex(-2); }), static_cast<int>(InvalidPropertyValue));
     QCOMPARE(zoom.ListIndex(), -1);
 }
 

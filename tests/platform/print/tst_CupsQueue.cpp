@@ -57,18 +57,8 @@ QStringList numbersOf(const std::vector<PrintedPage> &pages)
     return numbers;
 }
 
-QString failureOf(const std::function<void()> &step)
-{
-    try {
-        step();
-        return u"no failure"_s;
-    } catch (const RunTimeError &error) {
-        return QString::number(error.Number()) + u' ' + error.Description();
-    }
-}
-
 // What the caller of the print control gets to know, which is what the user was told.
-QString failureOf(Document &document)
+QString failureToPrint(Document &document)
 {
     document.host.expectAnyMessage();
     const QString failure = failureOf([&] { document.on(u"Office"_s).PrintDoc(1, 1); });
@@ -252,7 +242,7 @@ void tst_CupsQueue::aQueueThatRefusesJobsIsReported()
 {
     Document document;
     m_scheduler->refuseJobs(u"Office"_s);
-    const QString failure = failureOf(document);
+    const QString failure = failureToPrint(document);
     QVERIFY2(failure.startsWith(u"482 The printer \"Office\" didn't take the document. "_s), qPrintable(failure));
     QVERIFY2(failure.contains(u"not accepting jobs"_s), qPrintable(failure));
     QCOMPARE(document.window.vs.PageCount(), Pages); // the document stays
@@ -264,7 +254,7 @@ void tst_CupsQueue::aQueueThatWasDeletedIsReported()
     QCOMPARE(installedPrinters()[0].deviceName, u"Office"_s);
     m_scheduler->addQueue(u"Annex"_s);
     m_scheduler->removeQueue(u"Office"_s);
-    QCOMPARE(failureOf(document), u"482 The printer \"Office\" is not there."_s);
+    QCOMPARE(failureToPrint(document), u"482 The printer \"Office\" is not there."_s);
     m_scheduler->removeQueue(u"Annex"_s);
     QCOMPARE(m_scheduler->keptJobs(), 0); // nor did the job go to the other one
 }
@@ -283,7 +273,7 @@ void tst_CupsQueue::aSchedulerThatIsGoneIsReported()
 {
     Document document;
     m_scheduler->kill();
-    QCOMPARE(failureOf(document), u"482 The printer \"Office\" is not there."_s);
+    QCOMPARE(failureToPrint(document), u"482 The printer \"Office\" is not there."_s);
     QCOMPARE(installedPrinters().size(), std::size_t(1));
 }
 
@@ -304,7 +294,7 @@ void tst_CupsQueue::aSchedulerThatDoesNotAnswerHoldsNobodyUp()
     m_scheduler->freeze();
     QElapsedTimer waited;
     waited.start();
-    QCOMPARE(failureOf(document), u"482 The printer \"Office\" is not there."_s);
+    QCOMPARE(failureToPrint(document), u"482 The printer \"Office\" is not there."_s);
     QCOMPARE(installedPrinters().size(), std::size_t(1));
     QVERIFY(!waited.hasExpired(Patience));
 }

@@ -1,14 +1,15 @@
 // A PDF file comes into being whole, or not at all.
 #include "platform/print/PdfFile.h"
-#include "platform/system/RunTimeError.h"
+#include "support/ErrorOf.h"
+#include "support/TestHost.h"
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include <QFileInfo>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace orvane;
+using namespace orvane::test;
 
 class tst_PdfFile : public QObject
 {
@@ -16,6 +17,7 @@ class tst_PdfFile : public QObject
 
 private slots:
     void init();
+    void cleanup();
     void aWholeFileIsKept();
     void aWholeFileReplacesTheChosenOne();
     void whatIsNotWholeIsReported_data();
@@ -24,11 +26,10 @@ private slots:
     void whatIsNotKeptLeavesNothing();
 
 private:
-    void write(const QString &name, const QByteArray &content) const;
-    QByteArray read(const QString &name) const;
+    void write(const PdfFile &file, const QByteArray &content) const; // as the printer does
     QStringList files() const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<TestHost> m_host;
 };
 
 namespace
@@ -38,58 +39,46 @@ const QByteArray &wholeFile()
     static const QByteArray content = "%PDF-1.4\nwords\n%%EOF\n";
     return content;
 }
-
-QString failureOf(PdfFile &file)
-{
-    try {
-        file.keep();
-    } catch (const RunTimeError &error) {
-        return u"%1 %2"_s.arg(error.Number()).arg(error.Description());
-    }
-    return {};
-}
 } // namespace
 
 void tst_PdfFile::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
+    m_host = std::make_unique<TestHost>();
+    m_host->removeFile(u"DealerData.dat"_s);
 }
 
-void tst_PdfFile::write(const QString &name, const QByteArray &content) const
+void tst_PdfFile::cleanup()
 {
-    QFile file(QDir(m_folder->path()).filePath(name)); // whole paths stay as they are
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        QTest::qFail("a file of the test can't be written", __FILE__, __LINE__);
+    m_host.reset();
 }
 
-QByteArray tst_PdfFile::read(const QString &name) const
+void tst_PdfFile::write(const PdfFile &file, const QByteArray &content) const
 {
-    QFile file(m_folder->filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    m_host->writeFile(QFileInfo(file.workingName()).fileName(), content);
 }
 
 QStringList tst_PdfFile::files() const
 {
-    return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden);
+    return QDir(m_host->folder()).entryList(QDir::Files | QDir::Hidden);
 }
 
 void tst_PdfFile::aWholeFileIsKept()
 {
-    const auto file = PdfFile::named(m_folder->path(), u"Emergency plan"_s);
-    write(file->workingName(), wholeFile());
+    const auto file = PdfFile::named(m_host->folder(), u"Emergency plan"_s);
+    write(*file, wholeFile());
     file->keep();
     QCOMPARE(files(), QStringList{u"Emergency plan.pdf"_s});
-    QCOMPARE(read(u"Emergency plan.pdf"_s), wholeFile());
+    QCOMPARE(m_host->readFile(u"Emergency plan.pdf"_s), wholeFile());
 }
 
 void tst_PdfFile::aWholeFileReplacesTheChosenOne()
 {
-    write(u"mine.pdf"_s, "the old one");
-    const auto file = PdfFile::chosen(m_folder->filePath(u"mine.pdf"_s));
-    write(file->workingName(), wholeFile());
+    m_host->writeFile(u"mine.pdf"_s, "the old one");
+    const auto file = PdfFile::chosen(m_host->folder() + u"/mine.pdf"_s);
+    write(*file, wholeFile());
     file->keep();
     QCOMPARE(files(), QStringList{u"mine.pdf"_s});
-    QCOMPARE(read(u"mine.pdf"_s), wholeFile());
+    QCOMPARE(m_host->readFile(u"mine.pdf"_s), wholeFile());
 }
 
 void tst_PdfFile::whatIsNotWholeIsReported_data()
@@ -103,25 +92,27 @@ void tst_PdfFile::whatIsNotWholeIsReported_data()
 void tst_PdfFile::whatIsNotWholeIsReported()
 {
     QFETCH(const qsizetype, length);
-    write(u"mine.pdf"_s, "the old one");
-    auto file = PdfFile::chosen(m_folder->filePath(u"mine.pdf"_s));
-    write(file->workingName(), wholeFile().first(length));
-    QCOMPARE(failureOf(*file), u"482 The file \"mine.pdf\" can't be written in %1."_s.arg(m_folder->path()));
+    m_host->writeFile(u"mine.pdf"_s, "the old one");
+    auto file = PdfFile::chosen(m_host->folder() + u"/mine.pdf"_s);
+    write(*file, wholeFile().first(length));
+    QCOMPARE(failureOf([&] { file->keep(); }),
+             u"482 The file \"mine.pdf\" can't be written in %1."_s.arg(m_host->folder()));
     file.reset();
     QCOMPARE(files(), QStringList{u"mine.pdf"_s});
-    QCOMPARE(read(u"mine.pdf"_s), QByteArray("the old one"));
+    QCOMPARE(m_host->readFile(u"mine.pdf"_s), QByteArray("the old one"));
 }
 
 void tst_PdfFile::aFileThatIsNotThereIsReported()
 {
-    const auto file = PdfFile::named(m_folder->path(), u"Emergency plan"_s);
-    QCOMPARE(failureOf(*file), u"482 The file \"Emergency plan\" can't be written in %1."_s.arg(m_folder->path()));
+    const auto file = PdfFile::named(m_host->folder(), u"Emergency plan"_s);
+    QCOMPARE(failureOf([&] { file->keep(); }),
+             u"482 The file \"Emergency plan\" can't be written in %1."_s.arg(m_host->folder()));
 }
 
 void tst_PdfFile::whatIsNotKeptLeavesNothing()
 {
-    auto file = PdfFile::named(m_folder->path(), u"Emergency plan"_s);
-    write(file->workingName(), wholeFile());
+    auto file = PdfFile::named(m_host->folder(), u"Emergency plan"_s);
+    write(*file, wholeFile());
     file.reset();
     QCOMPARE(files(), QStringList());
 }
